@@ -1,0 +1,6 @@
+#include "athlete/screens.h"
+#include "core/ui.h"
+
+void RegisterAthleteScreens()
+{
+}

@@ -1,0 +1,6 @@
+#include "body/screens.h"
+#include "core/ui.h"
+
+void RegisterBodyScreens()
+{
+}

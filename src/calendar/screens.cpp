@@ -1,0 +1,6 @@
+#include "calendar/screens.h"
+#include "core/ui.h"
+
+void RegisterCalendarScreens()
+{
+}

@@ -1,0 +1,6 @@
+#include "core/screens.h"
+#include "core/ui.h"
+
+void RegisterCoreScreens()
+{
+}

@@ -1,0 +1,6 @@
+#include "exchange/screens.h"
+#include "core/ui.h"
+
+void RegisterExchangeScreens()
+{
+}

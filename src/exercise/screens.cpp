@@ -1,0 +1,6 @@
+#include "exercise/screens.h"
+#include "core/ui.h"
+
+void RegisterExerciseScreens()
+{
+}

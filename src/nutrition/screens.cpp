@@ -1,0 +1,6 @@
+#include "nutrition/screens.h"
+#include "core/ui.h"
+
+void RegisterNutritionScreens()
+{
+}

@@ -1,0 +1,3 @@
+#pragma once
+// Registers the screens of this subsystem by name, so others can open them.
+void RegisterNutritionScreens();

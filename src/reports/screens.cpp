@@ -1,0 +1,6 @@
+#include "reports/screens.h"
+#include "core/ui.h"
+
+void RegisterReportsScreens()
+{
+}

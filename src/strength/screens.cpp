@@ -1,0 +1,6 @@
+#include "strength/screens.h"
+#include "core/ui.h"
+
+void RegisterStrengthScreens()
+{
+}
