@@ -128,6 +128,15 @@ QWidget* MainWindow() { return g_mainWindow; }
 void RegisterScreen(const QString& name, ScreenFactory factory) { Registry().insert(name.toLower(), std::move(factory)); }
 bool HasScreen(const QString& name) { return Registry().contains(name.toLower()); }
 
+QWidget* CreateScreen(const QString& name, QWidget* parent)
+{
+    auto it = Registry().constFind(name.toLower());
+    if (it == Registry().constEnd()) return nullptr;
+    QWidget* w = (*it)(parent);
+    if (w) w->setObjectName(name);
+    return w;
+}
+
 int ShowModal(const QString& name)
 {
     auto it = Registry().constFind(name.toLower());
@@ -257,3 +266,11 @@ QDate CalendarQDate()
 QString CalendarDate() { return CalendarQDate().toString(QStringLiteral("yyyy-MM-dd")); }
 
 void SetCalendarDateProvider(std::function<QDate()> provider) { DateProvider() = std::move(provider); }
+
+#include "core/plannerlink.h"
+
+PlannerLink& Planner()
+{
+    static PlannerLink link;
+    return link;
+}

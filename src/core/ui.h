@@ -53,6 +53,8 @@ QWidget* MainWindow();
 using ScreenFactory = std::function<QWidget*(QWidget* parent)>;
 void RegisterScreen(const QString& name, ScreenFactory factory);
 bool HasScreen(const QString& name);
+// Creates the screen with the given parent without showing it; nullptr when unknown.
+QWidget* CreateScreen(const QString& name, QWidget* parent);
 // Creates the screen and, if it is a dialog, runs it modally and deletes it. Returns the
 // dialog's result, or -1 when no screen of that name exists.
 int ShowModal(const QString& name);
