@@ -124,6 +124,7 @@ CREATE TABLE Daily_Exercise (
     "MaxEffort" DOUBLE
 );
 CREATE INDEX idx_Daily_Exercise_user_date ON Daily_Exercise ("User_ID", "Date");
+CREATE INDEX idx_Daily_Exercise_name ON Daily_Exercise ("Name");
 
 -- A session's copy of its form: one row per field, a formula or a value.
 CREATE TABLE Daily_Templates (
@@ -252,7 +253,7 @@ CREATE TABLE daily_nutrition (
     "Chloride" DOUBLE
 );
 CREATE INDEX idx_daily_nutrition_user_date ON daily_nutrition ("User_ID", "Date");
-CREATE INDEX idx_daily_nutrition_meal_type ON daily_nutrition ("Meal_ID", "Type");
+CREATE INDEX idx_daily_nutrition_type ON daily_nutrition ("Type");
 
 -- Per-day totals of an athlete (kept for the athlete's removal; no screen fills it).
 CREATE TABLE daily_totals (
