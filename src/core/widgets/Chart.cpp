@@ -1,0 +1,462 @@
+#include "core/widgets/Chart.h"
+
+#include <QMouseEvent>
+#include <QPainter>
+#include <QPrinter>
+#include <QRubberBand>
+#include <QScrollBar>
+#include <QToolTip>
+#include <QVBoxLayout>
+#include <QtCharts/QBarCategoryAxis>
+#include <QtCharts/QBarSeries>
+#include <QtCharts/QBarSet>
+#include <QtCharts/QChart>
+#include <QtCharts/QChartView>
+#include <QtCharts/QLineSeries>
+#include <QtCharts/QPieSeries>
+#include <QtCharts/QPieSlice>
+#include <QtCharts/QValueAxis>
+#include <algorithm>
+
+#include "core/ui.h"
+
+// The chart's view: rectangle zoom with the left button, zoom out with the right one, and the
+// value under the pointer as a tooltip.
+class ChartView : public QChartView {
+public:
+    explicit ChartView(Chart* owner) : QChartView(owner), m_owner(owner)
+    {
+        setRenderHint(QPainter::Antialiasing);
+        setMouseTracking(true);
+    }
+
+    QPointF valueAt(const QPointF& viewPos) const
+    {
+        return chart()->mapToValue(chart()->mapFromScene(mapToScene(viewPos.toPoint())));
+    }
+
+protected:
+    void mousePressEvent(QMouseEvent* e) override
+    {
+        if (m_owner->m_style == Chart::Pie)
+            return QChartView::mousePressEvent(e);
+        if (e->button() == Qt::RightButton) {
+            m_owner->ZoomOut();
+            return;
+        }
+        if (e->button() == Qt::LeftButton) {
+            m_origin = e->position().toPoint();
+            if (!m_band)
+                m_band = new QRubberBand(QRubberBand::Rectangle, viewport());
+            m_band->setGeometry(QRect(m_origin, QSize()));
+            m_band->show();
+        }
+    }
+    void mouseMoveEvent(QMouseEvent* e) override
+    {
+        if (m_band && m_band->isVisible()) {
+            m_band->setGeometry(QRect(m_origin, e->position().toPoint()).normalized());
+            return;
+        }
+        if (m_owner->m_style != Chart::Pie) {
+            int series = 0;
+            const int p = m_owner->PointAt(e->position(), &series);
+            if (p >= 0)
+                QToolTip::showText(e->globalPosition().toPoint(), m_owner->PointText(series, p), this);
+            else
+                QToolTip::hideText();
+        }
+        QChartView::mouseMoveEvent(e);
+    }
+    void mouseReleaseEvent(QMouseEvent* e) override
+    {
+        if (m_band && m_band->isVisible() && e->button() == Qt::LeftButton) {
+            m_band->hide();
+            const QRect r = QRect(m_origin, e->position().toPoint()).normalized();
+            if (r.width() > 4 && r.height() > 4)
+                m_owner->ZoomToRect(r);
+            return;
+        }
+        QChartView::mouseReleaseEvent(e);
+    }
+
+private:
+    Chart* m_owner;
+    QRubberBand* m_band = nullptr;
+    QPoint m_origin;
+};
+
+Chart::Chart(QWidget* parent) : QWidget(parent)
+{
+    m_view = new ChartView(this);
+    m_view->setChart(new QChart);
+    m_scroll = new QScrollBar(Qt::Horizontal, this);
+    m_scroll->setVisible(false);
+    auto* lay = new QVBoxLayout(this);
+    lay->setContentsMargins(0, 0, 0, 0);
+    lay->setSpacing(0);
+    lay->addWidget(m_view, 1);
+    lay->addWidget(m_scroll);
+    connect(m_scroll, &QScrollBar::valueChanged, this, [this](int v) {
+        if (v != m_first && m_zoomed)
+            SetView(v, m_count, m_low, m_high);
+    });
+    rebuild();
+}
+
+Chart::~Chart() = default;
+
+QChartView* Chart::View() const { return m_view; }
+QChart* Chart::GetChart() const { return m_view->chart(); }
+
+void Chart::SetTitle(const QString& title)
+{
+    m_title = title;
+    GetChart()->setTitle(title);
+}
+
+QString Chart::Title() const { return m_title; }
+
+void Chart::SetStyle(Style style)
+{
+    if (m_style == style)
+        return;
+    m_style = style;
+    rebuild();
+}
+
+void Chart::SetLegendVisible(bool visible)
+{
+    m_legend = visible;
+    GetChart()->legend()->setVisible(visible);
+}
+
+void Chart::SetAxisTitles(const QString& x, const QString& y)
+{
+    m_xTitle = x;
+    m_yTitle = y;
+    rebuild();
+}
+
+// ---- pie ----------------------------------------------------------------------------------
+
+void Chart::SetPieSlices(const QStringList& names)
+{
+    m_style = Pie;
+    m_pieNames = names;
+    m_pieValues = QVector<double>(names.size(), 0.0);
+    rebuild();
+}
+
+void Chart::SetPieValue(int slice, double value)
+{
+    if (slice < 1 || slice > m_pieValues.size())
+        return;
+    m_pieValues[slice - 1] = value;
+    rebuild();
+}
+
+double Chart::PieValue(int slice) const
+{
+    return (slice < 1 || slice > m_pieValues.size()) ? 0.0 : m_pieValues[slice - 1];
+}
+
+void Chart::ClearPie()
+{
+    m_pieValues.fill(0.0);
+    rebuild();
+}
+
+// ---- series -------------------------------------------------------------------------------
+
+void Chart::Clear()
+{
+    m_labels.clear();
+    for (auto& s : m_values)
+        s.clear();
+    m_first = m_count = 0;
+    m_low = m_high = NAN;
+    m_zoomed = false;
+    rebuild();
+}
+
+void Chart::SetSeriesNames(const QStringList& names)
+{
+    m_seriesNames = names;
+    m_values.resize(names.size());
+    for (auto& s : m_values)
+        s.resize(m_labels.size());
+    rebuild();
+}
+
+void Chart::AddPoint(const QString& label, const QVector<double>& values)
+{
+    if (m_values.size() < values.size()) {
+        while (m_seriesNames.size() < values.size())
+            m_seriesNames << QStringLiteral("Series %1").arg(m_seriesNames.size() + 1);
+        m_values.resize(m_seriesNames.size());
+        for (auto& s : m_values)
+            s.resize(m_labels.size());
+    }
+    m_labels << label;
+    for (int s = 0; s < m_values.size(); ++s)
+        m_values[s] << (s < values.size() && std::isfinite(values[s]) ? values[s] : 0.0);
+    if (!m_zoomed)
+        m_count = m_labels.size();
+    rebuild();
+}
+
+void Chart::SetData(const QStringList& labels, const QVector<QVector<double>>& series)
+{
+    m_labels = labels;
+    while (m_seriesNames.size() < series.size())
+        m_seriesNames << QStringLiteral("Series %1").arg(m_seriesNames.size() + 1);
+    m_values = QVector<QVector<double>>(m_seriesNames.size());
+    for (int s = 0; s < m_values.size(); ++s) {
+        m_values[s] = s < series.size() ? series[s] : QVector<double>();
+        m_values[s].resize(labels.size());
+    }
+    m_first = 0;
+    m_count = labels.size();
+    m_low = m_high = NAN;
+    m_zoomed = false;
+    rebuild();
+}
+
+QString Chart::Label(int point) const { return point >= 0 && point < m_labels.size() ? m_labels[point] : QString(); }
+
+double Chart::SeriesValue(int series, int point) const
+{
+    if (series < 0 || series >= m_values.size() || point < 0 || point >= m_values[series].size())
+        return 0.0;
+    return m_values[series][point];
+}
+
+QString Chart::PointText(int series, int point) const
+{
+    if (point < 0 || point >= m_labels.size())
+        return QString();
+    QString name = series >= 0 && series < m_seriesNames.size() ? m_seriesNames[series] : QString();
+    QString v = QString::number(SeriesValue(series, point), 'f', 2);
+    while (v.contains('.') && (v.endsWith('0') || v.endsWith('.')))
+        v.chop(1);
+    return m_labels[point] + QStringLiteral(": ") + (name.isEmpty() ? v : name + ' ' + v);
+}
+
+double Chart::dataMin() const
+{
+    double lo = 0;
+    for (const auto& s : m_values)
+        for (int i = m_first; i < m_first + m_count && i < s.size(); ++i)
+            lo = std::min(lo, s[i]);
+    return lo;
+}
+
+double Chart::dataMax() const
+{
+    double hi = 0;
+    for (const auto& s : m_values)
+        for (int i = m_first; i < m_first + m_count && i < s.size(); ++i)
+            hi = std::max(hi, s[i]);
+    return hi;
+}
+
+// ---- zoom and pan -------------------------------------------------------------------------
+
+void Chart::SetView(int first, int count, double low, double high)
+{
+    const int n = m_labels.size();
+    count = std::clamp(count, n ? 1 : 0, n);
+    first = std::clamp(first, 0, std::max(0, n - count));
+    m_first = first;
+    m_count = count;
+    m_low = low;
+    m_high = high;
+    m_zoomed = count < n || std::isfinite(low) || std::isfinite(high);
+    rebuild();
+}
+
+void Chart::ZoomOut()
+{
+    m_first = 0;
+    m_count = m_labels.size();
+    m_low = m_high = NAN;
+    m_zoomed = false;
+    rebuild();
+}
+
+bool Chart::IsZoomed() const { return m_zoomed; }
+
+void Chart::ZoomToRect(const QRectF& rect)
+{
+    if (m_style == Pie || m_labels.isEmpty())
+        return;
+    const QPointF a = m_view->valueAt(rect.topLeft());
+    const QPointF b = m_view->valueAt(rect.bottomRight());
+    // x is the index among the visible points (bars centred on their index).
+    int i1 = int(std::ceil(std::min(a.x(), b.x()) - 0.5));
+    int i2 = int(std::floor(std::max(a.x(), b.x()) + 0.5));
+    i1 = std::max(i1, 0);
+    i2 = std::min(i2, m_count - 1);
+    if (i2 < i1)
+        return;
+    const double lo = std::min(a.y(), b.y());
+    const double hi = std::max(a.y(), b.y());
+    SetView(m_first + i1, i2 - i1 + 1, lo, hi);
+}
+
+int Chart::PointAt(const QPointF& viewPos, int* series) const
+{
+    if (m_style == Pie || m_count == 0)
+        return -1;
+    const QRectF plot = GetChart()->plotArea();
+    const QPointF scenePos = m_view->mapToScene(viewPos.toPoint());
+    const QPointF chartPos = GetChart()->mapFromScene(scenePos);
+    if (!plot.contains(chartPos))
+        return -1;
+    const QPointF v = m_view->valueAt(viewPos);
+    const int local = int(std::floor(v.x() + 0.5));
+    if (local < 0 || local >= m_count)
+        return -1;
+    const int point = m_first + local;
+    int s = 0;
+    const int ns = m_values.size();
+    if (ns > 1) {
+        if (m_style == Bar) {
+            const double frac = v.x() - local + 0.5;   // 0..1 across the category
+            s = std::clamp(int(frac * ns), 0, ns - 1);
+        } else {
+            double best = 1e300;
+            for (int i = 0; i < ns; ++i) {
+                const double d = std::abs(SeriesValue(i, point) - v.y());
+                if (d < best) {
+                    best = d;
+                    s = i;
+                }
+            }
+        }
+    }
+    if (series)
+        *series = s;
+    return point;
+}
+
+void Chart::updateScrollBar()
+{
+    const int n = m_labels.size();
+    const bool show = m_style != Pie && m_count < n;
+    m_scroll->blockSignals(true);
+    m_scroll->setRange(0, std::max(0, n - m_count));
+    m_scroll->setPageStep(std::max(1, m_count));
+    m_scroll->setValue(m_first);
+    m_scroll->blockSignals(false);
+    m_scroll->setVisible(show);
+}
+
+// ---- drawing ------------------------------------------------------------------------------
+
+void Chart::rebuild()
+{
+    QChart* c = GetChart();
+    c->removeAllSeries();
+    for (QAbstractAxis* ax : c->axes())
+        c->removeAxis(ax), delete ax;
+    c->setTitle(m_title);
+    c->legend()->setVisible(m_legend);
+    c->setAnimationOptions(QChart::NoAnimation);
+
+    if (m_style == Pie) {
+        auto* pie = new QPieSeries;
+        double total = 0;
+        for (double v : m_pieValues)
+            total += std::max(0.0, v);
+        for (int i = 0; i < m_pieNames.size(); ++i) {
+            const double v = std::max(0.0, m_pieValues.value(i));
+            QPieSlice* sl = pie->append(m_pieNames[i], v);
+            if (total > 0 && v > 0) {
+                sl->setLabel(QStringLiteral("%1 %2%").arg(m_pieNames[i]).arg(qRound(100.0 * v / total)));
+                sl->setLabelVisible(true);
+            }
+        }
+        c->addSeries(pie);
+        updateScrollBar();
+        return;
+    }
+
+    if (!m_zoomed) {
+        m_first = 0;
+        m_count = m_labels.size();
+    }
+    QStringList cats = m_labels.mid(m_first, m_count);
+    auto* axX = new QBarCategoryAxis;
+    axX->append(cats.isEmpty() ? QStringList{QString()} : cats);
+    if (!m_xTitle.isEmpty())
+        axX->setTitleText(m_xTitle);
+    auto* axY = new QValueAxis;
+    if (!m_yTitle.isEmpty())
+        axY->setTitleText(m_yTitle);
+    double lo = std::isfinite(m_low) ? m_low : dataMin();
+    double hi = std::isfinite(m_high) ? m_high : dataMax();
+    if (!(hi > lo))
+        hi = lo + 1;
+    axY->setRange(lo, hi);
+    if (!std::isfinite(m_low) && !std::isfinite(m_high))
+        axY->applyNiceNumbers();
+    c->addAxis(axX, Qt::AlignBottom);
+    c->addAxis(axY, Qt::AlignLeft);
+
+    if (m_style == Bar) {
+        auto* bars = new QBarSeries;
+        for (int s = 0; s < m_values.size(); ++s) {
+            auto* set = new QBarSet(m_seriesNames.value(s));
+            for (int i = m_first; i < m_first + m_count; ++i)
+                *set << m_values[s].value(i);
+            bars->append(set);
+        }
+        c->addSeries(bars);
+        bars->attachAxis(axX);
+        bars->attachAxis(axY);
+    } else {
+        for (int s = 0; s < m_values.size(); ++s) {
+            auto* line = new QLineSeries;
+            line->setName(m_seriesNames.value(s));
+            line->setPointsVisible(m_count <= 60);
+            for (int i = m_first; i < m_first + m_count; ++i)
+                line->append(i - m_first, m_values[s].value(i));
+            c->addSeries(line);
+            line->attachAxis(axX);
+            line->attachAxis(axY);
+        }
+    }
+    updateScrollBar();
+}
+
+// ---- printing -----------------------------------------------------------------------------
+
+void Chart::Render(QPaintDevice* device)
+{
+    QPainter p(device);
+    p.setRenderHint(QPainter::Antialiasing);
+    const QRect target(0, 0, device->width(), device->height());
+    // Keep the on-screen proportions inside the target.
+    if (m_view->width() < 100 || m_view->height() < 100)
+        m_view->resize(640, 480);   // a chart that was never shown
+    QSize s = m_view->size();
+    s.scale(target.size(), Qt::KeepAspectRatio);
+    m_view->render(&p, QRectF(QPointF(0, 0), s), m_view->viewport()->rect());
+}
+
+bool Chart::Print()
+{
+    QPrinter printer(QPrinter::HighResolution);
+    printer.setPageOrientation(QPageLayout::Landscape);
+    return Print(&printer);
+}
+
+bool Chart::Print(QPrinter* printer)
+{
+    if (!PrintDialog(printer))
+        return false;
+    Render(printer);
+    return true;
+}

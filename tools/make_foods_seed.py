@@ -1,0 +1,351 @@
+#!/usr/bin/env python3
+"""Builds the foods library seed from the USDA National Nutrient Database for Standard
+Reference (public domain), abbreviated files.
+
+The files come with Debian's `gourmand` package, which carries them as data:
+
+    apt-get download gourmand
+    dpkg-deb -x gourmand_*.deb /tmp/gourmand
+    python3 tools/make_foods_seed.py /tmp/gourmand/usr/lib/python3/dist-packages/gourmand/data
+
+The folder given must hold ABBREV.txt, FOOD_DES.txt and WEIGHT.txt (optionally .gz or .bz2).
+It writes data/seed/library_foods.sql and data/seed/library_food_groups.sql.
+
+The column names of `foods` are read from data/schema/library.sql (by position: 0 Food_ID,
+1 Group_ID, 2 Name, 3 amount, 4 Measure, 5 points, 6 calories, 7.. the 36 nutrients); the
+measure names from data/seed/library_units.sql, so that a food's serving uses a unit the
+program can convert. Standard library only.
+"""
+import argparse
+import bz2
+import gzip
+import os
+import re
+import sys
+
+ROOT = os.path.dirname(os.path.dirname(os.path.abspath(__file__)))
+
+# The nutrient columns of `foods` from position 7, in order, with the field of ABBREV.txt
+# (counted from 1) that gives the amount per 100 g. None: the source has no such figure (0).
+NUTRIENTS = [
+    ("protein", 5), ("Fat", 6), ("Carbs", 8), ("Fiber", 9), ("Sodium", 16),
+    ("Potassium", 15), ("Calcium", 11), ("Iron", 12), ("Cholesterol", 46), ("Sugar", 10),
+    ("Caffeine", None), ("Fat-Saturated", 43), ("Fat-Monounsaturated", 44),
+    ("Fat-Polyunsaturated", 45), ("Folate", 30), ("Vit_A", 34), ("Vit_C", 21),
+    ("Vit_D", None), ("Vit_E", 41), ("Vit_K", 42), ("Vit_B6", 26), ("Vit_B12", 32),
+    ("Niacin", 24), ("Thiamin", 22), ("Riboflavin", 23), ("Magnesium", 13), ("Zinc", 17),
+    ("Phosphorus", 14), ("Copper", 18), ("Manganese", 19), ("Selenium", 20),
+    ("Biotin", None), ("Pantothenic acid", 25), ("Chromium", None), ("Molybdenum", None),
+    ("Chloride", None),
+]
+ABBREV_KCAL = 4
+ABBREV_VIT_A_IU = 33   # used instead of RAE when the Nutrients catalogue counts vitamin A in IU
+DEFAULT_COLUMNS = ["Food_ID", "Group_ID", "Name", "amount", "Measure", "points", "calories"] + \
+    [n for n, _ in NUTRIENTS]
+
+# USDA food groups (FdGrp_Cd) -> our category. 2100 (fast foods) is split into restaurants.
+USDA_GROUPS = {
+    "0100": "Dairy and Egg Products", "0200": "Spices and Herbs", "0300": "Baby Foods",
+    "0400": "Fats and Oils", "0500": "Poultry Products", "0600": "Soups, Sauces, and Gravies",
+    "0700": "Sausages and Luncheon Meats", "0800": "Breakfast Cereals",
+    "0900": "Fruits and Fruit Juices", "1000": "Pork Products",
+    "1100": "Vegetables and Vegetable Products", "1200": "Nut and Seed Products",
+    "1300": "Beef Products", "1400": "Beverages", "1500": "Finfish and Shellfish Products",
+    "1600": "Legumes and Legume Products", "1700": "Lamb, Veal, and Game Products",
+    "1800": "Baked Products", "1900": "Sweets", "2000": "Cereal Grains and Pasta",
+    "2200": "Meals, Entrees, and Side Dishes", "2500": "Snacks", "3500": "Ethnic Foods",
+    "3600": "Restaurant Foods",
+}
+# Restaurant categories (type "Menus"): a name beginning with the prefix goes there.
+RESTAURANTS = [
+    ("MCDONALD'S", "McDonald's"), ("BURGER KING", "Burger King"),
+    ("KENTUCKY FRIED CHICKEN", "Kentucky Fried Chicken"), ("POPEYES", "Popeyes"),
+    ("TACO BELL", "Taco Bell"), ("WENDY'S", "Wendy's"), ("PIZZA HUT", "Pizza Hut"),
+    ("DOMINO'S", "Domino's"), ("PAPA JOHN'S", "Papa John's"),
+    ("LITTLE CAESARS", "Little Caesars"), ("SUBWAY", "Subway"), ("DAIRY QUEEN", "Dairy Queen"),
+    ("ARBY'S", "Arby's"), ("CHICK-FIL-A", "Chick-fil-A"),
+]
+GENERIC_FAST_FOOD = "Fast Foods"
+RECIPE_CATEGORIES = ["Appetizers", "Drinks", "Breads", "Breakfast", "Desserts",
+                     "Main Dishes", "Salads", "Side Dishes", "Soups", "Vegetarian"]
+MEALS_GROUP_ID = 65
+
+# First word of a household measure -> the unit names that may stand for it, best first.
+MEASURE_SYNONYMS = {
+    "cup": ["cup", "cup(s)", "cups"], "cups": ["cup", "cup(s)", "cups"],
+    "tbsp": ["tbsp", "tablespoon", "tablespoon(s)", "Tbsp"],
+    "tablespoon": ["tbsp", "tablespoon", "tablespoon(s)", "Tbsp"],
+    "tablespoons": ["tbsp", "tablespoon", "tablespoon(s)", "Tbsp"],
+    "tsp": ["tsp", "teaspoon", "teaspoon(s)"], "teaspoon": ["tsp", "teaspoon", "teaspoon(s)"],
+    "teaspoons": ["tsp", "teaspoon", "teaspoon(s)"],
+    "oz": ["oz", "ounce", "ounce(s)", "ounces"], "ounce": ["oz", "ounce", "ounce(s)", "ounces"],
+    "fl oz": ["fl oz", "fluid ounce", "fluid ounce(s)", "fl. oz"],
+    "lb": ["lb", "lbs", "pound", "pound(s)"], "pound": ["lb", "lbs", "pound", "pound(s)"],
+    "quart": ["quart", "qt", "quart(s)"], "pint": ["pint", "pt", "pint(s)"],
+    "gallon": ["gallon", "gal", "gallon(s)"], "g": ["g", "gram", "gram(s)", "grams"],
+    "kg": ["kg", "kilogram", "kilogram(s)"], "ml": ["ml", "milliliter", "millilitre", "mL"],
+    "liter": ["liter", "litre", "l", "L"], "serving": ["serving", "serving(s)"],
+    "slice": ["slice", "slice(s)"], "piece": ["piece", "piece(s)"],
+    "large": ["large"], "medium": ["medium"], "small": ["small"],
+    "each": ["each"], "item": ["each", "item"], "unit": ["each", "unit"],
+    "nlea": ["serving", "serving(s)"], "package": ["package"], "can": ["can"],
+    "slices": ["slice", "slice(s)"], "pieces": ["piece", "piece(s)"],
+}
+GRAM_NAMES = ["g", "gram", "gram(s)", "grams"]
+
+
+def read_text(folder, name):
+    for candidate in (name, name.lower(), name + ".gz", name + ".bz2",
+                      name.lower() + ".gz", name.lower() + ".bz2"):
+        path = os.path.join(folder, candidate)
+        if not os.path.exists(path):
+            continue
+        if path.endswith(".gz"):
+            data = gzip.open(path, "rb").read()
+        elif path.endswith(".bz2"):
+            data = bz2.open(path, "rb").read()
+        else:
+            data = open(path, "rb").read()
+        return data.decode("latin-1")
+    sys.exit("make_foods_seed: %s not found in %s" % (name, folder))
+
+
+def records(text):
+    """Rows of a ^-separated file whose text fields are enclosed in ~."""
+    for line in text.splitlines():
+        if not line.strip():
+            continue
+        yield [f.strip("~") for f in line.split("^")]
+
+
+def schema_columns():
+    """The columns of foods from the schema, in order; the default names if it is missing."""
+    path = os.path.join(ROOT, "data", "schema", "library.sql")
+    if not os.path.exists(path):
+        return DEFAULT_COLUMNS
+    sql = open(path, encoding="utf-8").read()
+    m = re.search(r'create\s+table\s+(?:if\s+not\s+exists\s+)?["`\[]?foods["`\]]?\s*\((.*?)\)\s*;',
+                  sql, re.I | re.S)
+    if not m:
+        return DEFAULT_COLUMNS
+    cols = []
+    body = re.sub(r"--[^\n]*", "", m.group(1))
+    depth, cur = 0, ""
+    for ch in body:   # split at top-level commas
+        if ch == "(":
+            depth += 1
+        elif ch == ")":
+            depth -= 1
+        if ch == "," and depth == 0:
+            cols.append(cur)
+            cur = ""
+        else:
+            cur += ch
+    cols.append(cur)
+    names = []
+    for c in cols:
+        c = c.strip()
+        if not c or re.match(r"(primary|unique|foreign|check|constraint)\b", c, re.I):
+            continue
+        mm = re.match(r'"([^"]+)"|\[([^\]]+)\]|`([^`]+)`|(\S+)', c)
+        names.append(next(g for g in mm.groups() if g))
+    if len(names) < len(DEFAULT_COLUMNS):
+        sys.exit("make_foods_seed: foods in library.sql has %d columns, expected %d"
+                 % (len(names), len(DEFAULT_COLUMNS)))
+    return names[:len(DEFAULT_COLUMNS)]
+
+
+def unit_names():
+    """Names of the `units` rows seeded beside us (the first quoted text of each row)."""
+    path = os.path.join(ROOT, "data", "seed", "library_units.sql")
+    if not os.path.exists(path):
+        return []
+    names = []
+    for m in re.finditer(r"\(\s*'((?:[^']|'')*)'", open(path, encoding="utf-8").read()):
+        names.append(m.group(1).replace("''", "'"))
+    return names
+
+
+def vitamin_a_in_iu():
+    """True when the Nutrients catalogue seeded beside us counts vitamin A in IU."""
+    folder = os.path.join(ROOT, "data", "seed")
+    if not os.path.isdir(folder):
+        return False
+    for f in os.listdir(folder):
+        if "nutrient" in f.lower() and f.endswith(".sql"):
+            for line in open(os.path.join(folder, f), encoding="utf-8"):
+                if re.search(r"vit\w*[ _]a\b", line, re.I) and re.search(r"'IU'", line):
+                    return True
+    return False
+
+
+def pick(candidates, units):
+    lower = {u.lower(): u for u in units}
+    for c in candidates:
+        if c.lower() in lower:
+            return lower[c.lower()]
+    return None
+
+
+def map_measure(desc, units):
+    """A household measure of WEIGHT.txt -> the measure name stored in foods."""
+    d = desc.strip()
+    low = d.lower()
+    key = "fl oz" if low.startswith("fl oz") else re.split(r"[\s,(]", low, 1)[0]
+    if key in MEASURE_SYNONYMS:
+        unit = pick(MEASURE_SYNONYMS[key], units) if units else MEASURE_SYNONYMS[key][0]
+        if unit:
+            return unit
+    return d[:30].rstrip()
+
+
+def choose_weight(weights):
+    """The household serving of a food: a "medium" one if there is one, else the first."""
+    if not weights:
+        return None
+    for w in weights:
+        if w[1].lower().startswith("medium"):
+            return w
+    return weights[0]
+
+
+def number(x):
+    """A figure as short SQL text."""
+    if x == 0:
+        return "0"
+    r = round(x, 3)
+    if r == int(r):
+        return str(int(r))
+    return ("%.3f" % r).rstrip("0").rstrip(".")
+
+
+def sql_text(s):
+    return "'" + s.replace("'", "''") + "'"
+
+
+def category_of(group_code, name):
+    if group_code == "2100":
+        up = name.upper()
+        for prefix, cat in RESTAURANTS:
+            if up.startswith(prefix):
+                return ("Menus", cat)
+        return ("Menus", GENERIC_FAST_FOOD)
+    return ("Foods", USDA_GROUPS.get(group_code, "Other Foods"))
+
+
+def main():
+    ap = argparse.ArgumentParser(description=__doc__.split("\n")[0])
+    ap.add_argument("source", help="folder with ABBREV.txt, FOOD_DES.txt, WEIGHT.txt")
+    ap.add_argument("--out", default=os.path.join(ROOT, "data", "seed"))
+    ap.add_argument("--batch", type=int, default=250, help="rows per INSERT statement")
+    args = ap.parse_args()
+
+    version = ""
+    vpath = os.path.join(args.source, "nutritional_data_sr_version")
+    if os.path.exists(vpath):
+        version = open(vpath).read().strip()
+
+    abbrev = {r[0]: r for r in records(read_text(args.source, "ABBREV.txt"))}
+    desc = {r[0]: r for r in records(read_text(args.source, "FOOD_DES.txt"))}
+    weights = {}
+    for r in records(read_text(args.source, "WEIGHT.txt")):
+        try:
+            amount, grams = float(r[2]), float(r[4])
+        except (ValueError, IndexError):
+            continue
+        if amount > 0 and grams > 0:
+            weights.setdefault(r[0], []).append((amount, r[3], grams, int(r[1] or 0)))
+    for w in weights.values():
+        w.sort(key=lambda t: t[3])
+
+    columns = schema_columns()
+    units = unit_names()
+    gram_unit = (pick(GRAM_NAMES, units) if units else None) or "g"
+    fields = [f for _, f in NUTRIENTS]
+    if vitamin_a_in_iu():
+        fields[[n for n, _ in NUTRIENTS].index("Vit_A")] = ABBREV_VIT_A_IU
+
+    # Categories: " My Favorites" first, then the food groups, restaurants, meals, recipes.
+    foods = []
+    for ndb, row in abbrev.items():
+        d = desc.get(ndb)
+        name = (d[2] if d and len(d) > 2 and d[2] else row[1]).strip()
+        code = d[1] if d else ""
+        foods.append((category_of(code, name), name, ndb, row))
+    food_cats = sorted({c for (t, c), *_ in foods if t == "Foods"})
+    menu_cats = sorted({c for (t, c), *_ in foods if t == "Menus"})
+    groups = [(1, " My Favorites", "Foods")]
+    gid = 2
+    for c in food_cats:
+        groups.append((gid, c, "Foods"))
+        gid += 1
+    gid = max(gid, 40)
+    for c in menu_cats:
+        groups.append((gid, c, "Menus"))
+        gid += 1
+    if gid > MEALS_GROUP_ID:
+        sys.exit("make_foods_seed: too many categories before the meals group")
+    groups.append((MEALS_GROUP_ID, "Meals", "Meals"))
+    gid = MEALS_GROUP_ID + 1
+    for c in RECIPE_CATEGORIES:
+        groups.append((gid, c, "Recipes"))
+        gid += 1
+    group_id = {(t, c): i for i, c, t in groups}
+
+    header = ("-- Source: USDA National Nutrient Database for Standard Reference%s, public domain,\n"
+              "-- abbreviated files (ABBREV.txt, FOOD_DES.txt, WEIGHT.txt) as shipped by Debian's\n"
+              "-- gourmand package. Generated by tools/make_foods_seed.py; do not edit by hand.\n"
+              % ((", release " + version) if version else ""))
+
+    with open(os.path.join(args.out, "library_food_groups.sql"), "w", encoding="utf-8") as f:
+        f.write("-- Categories of the foods library: the food groups of the USDA National Nutrient\n"
+                "-- Database for Standard Reference (public domain), restaurants (Menus), saved\n"
+                "-- meals (group 65) and recipe categories. \" My Favorites\" keeps its leading\n"
+                "-- blank so that it sorts first. Generated by tools/make_foods_seed.py.\n")
+        f.write('INSERT INTO food_groups ("Group_ID", "Group", "Type") VALUES\n')
+        f.write(",\n".join("(%d, %s, %s)" % (i, sql_text(c), sql_text(t)) for i, c, t in groups))
+        f.write(";\n")
+
+    foods.sort(key=lambda x: (group_id[x[0]], x[1].lower(), x[2]))
+    collist = ", ".join('"%s"' % c for c in columns)
+    out_rows = []
+    unmapped = 0
+    for food_id, (cat, name, ndb, row) in enumerate(foods, start=1):
+        w = choose_weight(weights.get(ndb))
+        if w:
+            amount, measure_desc, grams = w[0], w[1], w[2]
+            measure = map_measure(measure_desc, units)
+            if units and measure not in units:
+                unmapped += 1
+        else:
+            amount, measure, grams = 100, gram_unit, 100.0
+        factor = grams / 100.0
+
+        def value(field):
+            if field is None or field > len(row) or not row[field - 1].strip():
+                return 0.0
+            try:
+                return float(row[field - 1]) * factor
+            except ValueError:
+                return 0.0
+
+        vals = [str(food_id), str(group_id[cat]), sql_text(name[:255]), number(amount),
+                sql_text(measure[:30]), "0", number(value(ABBREV_KCAL))]
+        vals += [number(value(fld)) for fld in fields]
+        out_rows.append("(" + ", ".join(vals) + ")")
+
+    with open(os.path.join(args.out, "library_foods.sql"), "w", encoding="utf-8") as f:
+        f.write(header)
+        f.write("-- Each row is one household serving (amount and measure) of a food; the nutrients\n"
+                "-- are the source's figures per 100 g scaled to the serving's weight. Figures the\n"
+                "-- source lacks (caffeine, vitamin D, biotin, chromium, molybdenum, chloride) are 0.\n")
+        for i in range(0, len(out_rows), args.batch):
+            f.write("INSERT INTO foods (%s) VALUES\n" % collist)
+            f.write(",\n".join(out_rows[i:i + args.batch]))
+            f.write(";\n")
+    print("make_foods_seed: %d foods in %d categories (%d servings without a units row)"
+          % (len(out_rows), len(groups), unmapped))
+
+
+if __name__ == "__main__":
+    main()
