@@ -1,0 +1,765 @@
+#include "body/frmWeighIn.h"
+#include "body/weighincalc.h"
+#include "core/regional.h"
+#include "core/routines.h"
+#include "core/shared.h"
+#include "core/ui.h"
+#include "core/widgets/Chart.h"
+
+#include <QComboBox>
+#include <QDateEdit>
+#include <QDialogButtonBox>
+#include <QFileInfo>
+#include <QFormLayout>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPixmap>
+#include <QPushButton>
+#include <QTabWidget>
+#include <QVBoxLayout>
+
+std::function<void(const QString& date)>& ReportWeighInLink()
+{
+    static std::function<void(const QString&)> link;
+    return link;
+}
+
+namespace {
+
+const char* const MeasureNames[14] = {"Neck",          "Shoulders",   "Chest",      "Stomach",     "Waist",
+                                      "Hips",          "Bicep Left",  "Bicep Right", "Forearm Left", "Forearm Right",
+                                      "Thigh Left",    "Thigh Right", "Calf Left",  "Calf Right"};
+const char* const SkinfoldNames[7] = {"chest", "abs", "triceps", "thigh", "subscapular", "suprailiac", "axillary"};
+// Named columns after the fourteen girths, with the field that holds each.
+const char* const SkinfoldColumns[7] = {"sf1", "sf2", "sf3", "sf4", "sf5", "sf6", "sf7"};
+
+QString Msg() { return QStringLiteral("Message"); }
+
+QString NumberText(const QVariant& v)
+{
+    return IsNull(v) ? QString() : Str(v);
+}
+
+QDate DateOf(const QVariant& v)
+{
+    if (v.metaType().id() == QMetaType::QDate)
+        return v.toDate();
+    if (v.metaType().id() == QMetaType::QDateTime)
+        return v.toDateTime().date();
+    return regional::ParseDate(v.toString());
+}
+
+}  // namespace
+
+frmWeighIn::frmWeighIn(QWidget* parent) : QDialog(parent)
+{
+    setObjectName(QStringLiteral("frmWeighIn"));
+    setWindowTitle(QStringLiteral("Weigh In"));
+    m_loading = true;
+
+    Tab1 = new QTabWidget(this);
+    Tab1->setObjectName(QStringLiteral("Tab1"));
+    Tab1->addTab(buildWeighInTab(), QStringLiteral("Weigh In"));
+    Tab1->addTab(buildPhotoTab(), QStringLiteral("Photo"));
+    Tab1->addTab(buildHistoryTab(), QStringLiteral("History"));
+    if (AppColor >= 0) {
+        const QColor c(int(AppColor & 0xFF), int((AppColor >> 8) & 0xFF), int((AppColor >> 16) & 0xFF));
+        Tab1->setStyleSheet(QStringLiteral("QTabBar::tab:selected { background: %1; }").arg(c.name()));
+    }
+
+    cmdPreviewExercise = new QPushButton(QStringLiteral("&Print"), this);
+    cmdPreviewExercise->setObjectName(QStringLiteral("cmdPreviewExercise"));
+    FB1 = new QPushButton(QStringLiteral("Ca&lculator"), this);
+    FB1->setObjectName(QStringLiteral("FB1"));
+    FB1->setToolTip(QStringLiteral("Calculator"));
+    cmdClose = new QPushButton(QStringLiteral("&Close"), this);
+    cmdClose->setObjectName(QStringLiteral("cmdClose"));
+    auto* bottom = new QHBoxLayout;
+    bottom->addWidget(cmdPreviewExercise);
+    bottom->addWidget(FB1);
+    bottom->addStretch(1);
+    bottom->addWidget(cmdClose);
+
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(Tab1, 1);
+    layout->addLayout(bottom);
+
+    QMetaObject::connectSlotsByName(this);
+    for (auto* e : txtData)
+        connect(e, &QLineEdit::textEdited, this, [this] { fieldChanged(); });
+    for (auto* e : txtGoal)
+        connect(e, &QLineEdit::textEdited, this, [this] { fieldChanged(); });
+    for (auto* e : {txtHeight, txtBMR, txtBMI, txtVo2, txtBFMeasure, txtPhoto})
+        connect(e, &QLineEdit::textChanged, this, [this] { fieldChanged(); });
+    connect(cboCondition, &QComboBox::currentIndexChanged, this, [this] { fieldChanged(); });
+
+    Guard([this] {
+        loadProfile();
+        setLabels();
+        loadGoals();
+        LoadDates();
+        loadmonths();
+    });
+    const QDate day = CalendarQDate();
+    cboDate->setDate(day);
+    m_loading = false;
+    Guard([this, day] {
+        for (int i = 0; i < lstWeighIns->count(); ++i)
+            if (lstWeighIns->item(i)->data(Qt::UserRole).toDate() == day)
+                lstWeighIns->setCurrentRow(i);
+        LoadWeighIn(day);
+    });
+    resize(900, 640);
+    CenterForm(this);
+}
+
+QWidget* frmWeighIn::buildWeighInTab()
+{
+    auto* page = new QWidget(this);
+
+    cboDate = new QDateEdit(page);
+    cboDate->setObjectName(QStringLiteral("cboDate"));
+    cboDate->setCalendarPopup(true);
+    cboDate->setDisplayFormat(QStringLiteral("dddd, MMMM d, yyyy"));
+    auto* lblDate = new QLabel(QStringLiteral("&Date"), page);
+    lblDate->setBuddy(cboDate);
+
+    lstWeighIns = new QListWidget(page);
+    lstWeighIns->setObjectName(QStringLiteral("lstWeighIns"));
+    lstWeighIns->setToolTip(QStringLiteral("Select a weigh in to view past information."));
+    auto* lblPast = new QLabel(QStringLiteral("Past &Weigh Ins"), page);
+    lblPast->setBuddy(lstWeighIns);
+
+    cmdLastWeighIn = new QPushButton(QStringLiteral("&Get Last Weigh In"), page);
+    cmdLastWeighIn->setObjectName(QStringLiteral("cmdLastWeighIn"));
+    cmdSave = new QPushButton(QStringLiteral("&Save"), page);
+    cmdSave->setObjectName(QStringLiteral("cmdSave"));
+    cmdDelete = new QPushButton(QStringLiteral("De&lete"), page);
+    cmdDelete->setObjectName(QStringLiteral("cmdDelete"));
+
+    auto* left = new QVBoxLayout;
+    left->addWidget(lblDate);
+    left->addWidget(cboDate);
+    left->addWidget(lblPast);
+    left->addWidget(lstWeighIns, 1);
+    left->addWidget(cmdLastWeighIn);
+    left->addWidget(cmdSave);
+    left->addWidget(cmdDelete);
+
+    for (int i = 0; i < DataFields; ++i) {
+        txtData[i] = new QLineEdit(page);
+        txtData[i]->setObjectName(QStringLiteral("txtData_%1").arg(i));
+        txtData[i]->setMaximumWidth(90);
+    }
+    for (int i = 0; i < GoalFields; ++i) {
+        txtGoal[i] = new QLineEdit(page);
+        txtGoal[i]->setObjectName(QStringLiteral("txtGoal_%1").arg(i));
+        txtGoal[i]->setMaximumWidth(90);
+    }
+
+    // Girths with their goals.
+    fraMeasurements = new QGroupBox(QStringLiteral("Measurements - inches"), page);
+    fraMeasurements->setObjectName(QStringLiteral("fraMeasurements"));
+    auto* mg = new QGridLayout(fraMeasurements);
+    mg->addWidget(new QLabel(QStringLiteral("Actual"), fraMeasurements), 0, 1);
+    mg->addWidget(new QLabel(QStringLiteral("Goal"), fraMeasurements), 0, 2);
+    for (int i = 0; i < 14; ++i) {
+        auto* l = new QLabel(QString::fromLatin1(MeasureNames[i]).prepend(QLatin1Char('&')), fraMeasurements);
+        l->setBuddy(txtData[i]);
+        mg->addWidget(l, i + 1, 0);
+        mg->addWidget(txtData[i], i + 1, 1);
+        mg->addWidget(txtGoal[i], i + 1, 2);
+        m_lengthLabels[i] = new QLabel(fraMeasurements);
+        mg->addWidget(m_lengthLabels[i], i + 1, 3);
+    }
+
+    // Body figures.
+    auto* fraBody = new QGroupBox(QStringLiteral("Conditioning"), page);
+    auto* bg = new QGridLayout(fraBody);
+    txtHeight = new QLineEdit(fraBody);
+    txtHeight->setObjectName(QStringLiteral("txtHeight"));
+    txtBMR = new QLineEdit(fraBody);
+    txtBMR->setObjectName(QStringLiteral("txtBMR"));
+    txtBMI = new QLineEdit(fraBody);
+    txtBMI->setObjectName(QStringLiteral("txtBMI"));
+    txtVo2 = new QLineEdit(fraBody);
+    txtVo2->setObjectName(QStringLiteral("txtVo2"));
+    txtBFMeasure = new QLineEdit(fraBody);
+    txtBFMeasure->setObjectName(QStringLiteral("txtBFMeasure"));
+    cboCondition = new QComboBox(fraBody);
+    cboCondition->setObjectName(QStringLiteral("cboCondition"));
+    cboCondition->addItems(weighin::ConditionList());
+    cboCondition->setCurrentIndex(-1);
+    lblSex = new QLabel(fraBody);
+    lblSex->setObjectName(QStringLiteral("lblSex"));
+    lblWeight = new QLabel(QStringLiteral("lbs"), fraBody);
+    lblWeight->setObjectName(QStringLiteral("lblWeight"));
+    m_goalWeightUnit = new QLabel(fraBody);
+    calcbmi = new QPushButton(QStringLiteral("Calc"), fraBody);
+    calcbmi->setObjectName(QStringLiteral("calcbmi"));
+    calcbmi->setToolTip(QStringLiteral("Calculate the body mass index"));
+    Command2 = new QPushButton(QStringLiteral("Calc"), fraBody);
+    Command2->setObjectName(QStringLiteral("Command2"));
+    Command2->setToolTip(QStringLiteral("Calculate the BMR"));
+    command3 = new QPushButton(QStringLiteral("Calc"), fraBody);
+    command3->setObjectName(QStringLiteral("command3"));
+    command3->setToolTip(QStringLiteral("Calculate the body fat"));
+
+    int r = 0;
+    auto addRow = [&](const QString& caption, QWidget* field, QWidget* goal, QWidget* extra) {
+        auto* l = new QLabel(caption, fraBody);
+        l->setBuddy(field);
+        bg->addWidget(l, r, 0);
+        bg->addWidget(field, r, 1);
+        if (goal) bg->addWidget(goal, r, 2);
+        if (extra) bg->addWidget(extra, r, 3);
+        ++r;
+    };
+    bg->addWidget(new QLabel(QStringLiteral("Actual"), fraBody), r, 1);
+    bg->addWidget(new QLabel(QStringLiteral("Goal"), fraBody), r, 2);
+    ++r;
+    addRow(QStringLiteral("W&eight"), txtData[14], txtGoal[14], lblWeight);
+    addRow(QStringLiteral("&Height"), txtHeight, nullptr, nullptr);
+    addRow(QStringLiteral("Body &Fat %"), txtData[15], txtGoal[15], command3);
+    addRow(QStringLiteral("&Method"), txtBFMeasure, nullptr, nullptr);
+    addRow(QStringLiteral("C&ondition"), cboCondition, nullptr, nullptr);
+    addRow(QStringLiteral("&BMR"), txtBMR, nullptr, Command2);
+    addRow(QStringLiteral("BM&I"), txtBMI, nullptr, calcbmi);
+    addRow(QStringLiteral("&VO2max"), txtVo2, nullptr, nullptr);
+    auto* sexCaption = new QLabel(QStringLiteral("Sex"), fraBody);
+    bg->addWidget(sexCaption, r, 0);
+    bg->addWidget(lblSex, r, 1);
+
+    auto* fraSkin = new QGroupBox(QStringLiteral("Skinfolds"), page);
+    auto* sg = new QGridLayout(fraSkin);
+    for (int i = 0; i < 7; ++i) {
+        auto* l = new QLabel(QString::fromLatin1(SkinfoldNames[i]), fraSkin);
+        l->setBuddy(txtData[16 + i]);
+        sg->addWidget(l, i, 0);
+        sg->addWidget(txtData[16 + i], i, 1);
+        m_skinLabels[i] = new QLabel(fraSkin);
+        sg->addWidget(m_skinLabels[i], i, 2);
+    }
+
+    auto* right = new QVBoxLayout;
+    right->addWidget(fraBody);
+    right->addWidget(fraSkin);
+    right->addStretch(1);
+
+    auto* h = new QHBoxLayout(page);
+    h->addLayout(left, 1);
+    h->addWidget(fraMeasurements);
+    h->addLayout(right);
+    return page;
+}
+
+QWidget* frmWeighIn::buildPhotoTab()
+{
+    auto* page = new QWidget(this);
+    Picture1 = new QLabel(page);
+    Picture1->setObjectName(QStringLiteral("Picture1"));
+    Picture1->setAlignment(Qt::AlignCenter);
+    Picture1->setMinimumSize(320, 320);
+    Picture1->setFrameShape(QFrame::StyledPanel);
+    txtPhoto = new QLineEdit(page);
+    txtPhoto->setObjectName(QStringLiteral("txtPhoto"));
+    txtPhoto->setReadOnly(true);
+    auto* l = new QLabel(QStringLiteral("P&hoto"), page);
+    l->setBuddy(txtPhoto);
+    Command1 = new QPushButton(QStringLiteral("&Browse..."), page);
+    Command1->setObjectName(QStringLiteral("Command1"));
+    Command1->setToolTip(QStringLiteral("Select an image to associate with this exercise."));
+    SSCommand1 = new QPushButton(QStringLiteral("&Remove Photo"), page);
+    SSCommand1->setObjectName(QStringLiteral("SSCommand1"));
+    auto* row = new QHBoxLayout;
+    row->addWidget(l);
+    row->addWidget(txtPhoto, 1);
+    row->addWidget(Command1);
+    row->addWidget(SSCommand1);
+    auto* v = new QVBoxLayout(page);
+    v->addWidget(Picture1, 1);
+    v->addLayout(row);
+    return page;
+}
+
+QWidget* frmWeighIn::buildHistoryTab()
+{
+    auto* page = new QWidget(this);
+    cboGraph = new QComboBox(page);
+    cboGraph->setObjectName(QStringLiteral("cboGraph"));
+    txtStartDate = new QDateEdit(page);
+    txtStartDate->setObjectName(QStringLiteral("txtStartDate"));
+    txtStartDate->setCalendarPopup(true);
+    txtEndDate = new QDateEdit(page);
+    txtEndDate->setObjectName(QStringLiteral("txtEndDate"));
+    txtEndDate->setCalendarPopup(true);
+    cmdGraph = new QPushButton(QStringLiteral("&Graph"), page);
+    cmdGraph->setObjectName(QStringLiteral("cmdGraph"));
+    cmdPrintGraph = new QPushButton(QStringLiteral("Print Gra&ph"), page);
+    cmdPrintGraph->setObjectName(QStringLiteral("cmdPrintGraph"));
+    Chart1 = new Chart(page);
+    Chart1->setObjectName(QStringLiteral("Chart1"));
+    Chart1->SetStyle(Chart::Line);
+    Chart1->SetLegendVisible(false);
+
+    auto* row = new QHBoxLayout;
+    auto* l1 = new QLabel(QStringLiteral("&Item"), page);
+    l1->setBuddy(cboGraph);
+    auto* l2 = new QLabel(QStringLiteral("&From"), page);
+    l2->setBuddy(txtStartDate);
+    auto* l3 = new QLabel(QStringLiteral("&To"), page);
+    l3->setBuddy(txtEndDate);
+    row->addWidget(l1);
+    row->addWidget(cboGraph, 1);
+    row->addWidget(l2);
+    row->addWidget(txtStartDate);
+    row->addWidget(l3);
+    row->addWidget(txtEndDate);
+    row->addWidget(cmdGraph);
+    row->addWidget(cmdPrintGraph);
+    auto* v = new QVBoxLayout(page);
+    v->addLayout(row);
+    v->addWidget(Chart1, 1);
+    return page;
+}
+
+QString frmWeighIn::GetLocalDate() const { return cboDate->date().toString(QStringLiteral("yyyy-MM-dd")); }
+
+void frmWeighIn::loadProfile()
+{
+    SqlText = QStringLiteral("select * from User_Info where User_ID=") + CurrentUserID;
+    UserRS.Open(SqlText);
+    if (!UserRS.Eof()) {
+        lblSex->setText(Str(UserRS.Field(QStringLiteral("sex"))));
+        m_height = Val(UserRS.Field(QStringLiteral("Height")));
+        m_ideal = Val(UserRS.Field(QStringLiteral("IdealWeight")));
+        m_age = Val(UserRS.Field(QStringLiteral("age")));
+        m_targetWeight = Val(UserRS.Field(QStringLiteral("TargetWeight")));
+        m_targetBodyFat = Val(UserRS.Field(QStringLiteral("TargetBodyFat")));
+        m_units = Str(UserRS.Field(QStringLiteral("personal_measurements")));
+    }
+    UserRS.Close();
+}
+
+void frmWeighIn::setLabels()
+{
+    const weighin::UnitLabels u = weighin::LabelsFor(m_units);
+    fraMeasurements->setTitle(u.frame);
+    lblWeight->setText(u.weight);
+    for (auto* l : m_lengthLabels)
+        l->setText(u.length);
+    for (auto* l : m_skinLabels)
+        l->setText(u.skinfold);
+}
+
+void frmWeighIn::loadGoals()
+{
+    SqlText = QStringLiteral("select * from WeighIn_goals where User_ID='") + CurrentUserID + QStringLiteral("'");
+    UserRS.Open(SqlText);
+    if (!UserRS.Eof()) {
+        const int n = std::min(GoalFields, UserRS.FieldCount() - 1);
+        for (int i = 0; i < n; ++i)
+            txtGoal[i]->setText(NumberText(UserRS.Field(i + 1)));
+    }
+    UserRS.Close();
+    txtGoal[14]->setText(m_targetWeight ? Str(QVariant(m_targetWeight)) : QString());
+    txtGoal[15]->setText(m_targetBodyFat ? Str(QVariant(m_targetBodyFat)) : QString());
+}
+
+void frmWeighIn::LoadDates()
+{
+    const bool was = m_loading;
+    m_loading = true;
+    lstWeighIns->clear();
+    SqlText = QStringLiteral("select distinct date from WeighIn where User_ID='") + CurrentUserID +
+              QStringLiteral("' order by date desc");
+    UserRS.Open(SqlText);
+    while (!UserRS.Eof()) {
+        const QDate d = DateOf(UserRS.Field(0));
+        auto* item = new QListWidgetItem(regional::ShortDate(d), lstWeighIns);
+        item->setData(Qt::UserRole, d);
+        UserRS.MoveNext();
+    }
+    UserRS.Close();
+    m_loading = was;
+}
+
+void frmWeighIn::loadmonths()
+{
+    // The history's item list: three named figures, then the fourteen girths by column name.
+    cboGraph->blockSignals(true);
+    cboGraph->clear();
+    cboGraph->addItems({QStringLiteral("Weight"), QStringLiteral("Height"), QStringLiteral("Bodyfat")});
+    SqlText = QStringLiteral("select * from WeighIn where User_ID='0'");
+    UserRS.Open(SqlText);
+    for (int i = 2; i <= 15 && i < UserRS.FieldCount(); ++i)
+        cboGraph->addItem(UserRS.FieldName(i));
+    UserRS.Close();
+    cboGraph->setCurrentIndex(0);
+    cboGraph->blockSignals(false);
+
+    // The range runs from the first weigh-in (or a month back) to today.
+    QDate first = QDate::currentDate().addMonths(-1);
+    if (lstWeighIns->count() > 0) {
+        const QDate d = lstWeighIns->item(lstWeighIns->count() - 1)->data(Qt::UserRole).toDate();
+        if (d.isValid() && d < first) first = d;
+    }
+    txtStartDate->setDate(first);
+    txtEndDate->setDate(QDate::currentDate());
+}
+
+void frmWeighIn::clearform()
+{
+    for (auto* e : txtData)
+        e->clear();
+    txtHeight->clear();
+    txtBMR->clear();
+    txtBMI->clear();
+    txtVo2->clear();
+    txtBFMeasure->clear();
+    txtPhoto->clear();
+    Picture1->clear();
+    cboCondition->setCurrentIndex(-1);
+}
+
+void frmWeighIn::LoadWeighIn(const QDate& date)
+{
+    const bool was = m_loading;
+    m_loading = true;
+    clearform();
+    SqlText = QStringLiteral("select * from WeighIn where User_ID='") + CurrentUserID + QStringLiteral("' and date=#") +
+              date.toString(QStringLiteral("yyyy-MM-dd")) + QStringLiteral("#");
+    UserRS.Open(SqlText);
+    if (!UserRS.Eof()) {
+        for (int i = 0; i < 14; ++i) {
+            const double v = Val(UserRS.Field(i + 2));
+            if (v > 0)
+                txtData[i]->setText(Str(UserRS.Field(i + 2)));
+        }
+        txtData[14]->setText(NumberText(UserRS.Field(QStringLiteral("weight"))));
+        const double height = Val(UserRS.Field(QStringLiteral("Height")));
+        txtHeight->setText(height == 0 ? Str(QVariant(m_height)) : Str(UserRS.Field(QStringLiteral("Height"))));
+        txtData[15]->setText(NumberText(UserRS.Field(QStringLiteral("BodyFat"))));
+        cboCondition->setCurrentIndex(cboCondition->findText(Str(UserRS.Field(QStringLiteral("Condition"))).trimmed()));
+        const QVariant bmr = UserRS.Field(QStringLiteral("BMR"));
+        txtBMR->setText(IsNull(bmr) ? QString() : regional::FormatNumber(Val(bmr), QStringLiteral("0000")));
+        txtBMI->setText(NumberText(UserRS.Field(QStringLiteral("BMI"))));
+        txtVo2->setText(NumberText(UserRS.Field(QStringLiteral("Vo2"))));
+        txtBFMeasure->setText(Str(UserRS.Field(QStringLiteral("BodyFatMeasure"))));
+        for (int i = 0; i < 7; ++i)
+            txtData[16 + i]->setText(NumberText(UserRS.Field(QString::fromLatin1(SkinfoldColumns[i]))));
+        txtPhoto->setText(Str(UserRS.Field(QStringLiteral("Photo"))).trimmed());
+        showPhoto(txtPhoto->text());
+        cmdDelete->setEnabled(true);
+    } else {
+        cmdDelete->setEnabled(false);
+    }
+    UserRS.Close();
+
+    SqlText = QStringLiteral("select * from User_Info where User_ID=") + CurrentUserID;
+    UserRS.Open(SqlText);
+    if (!UserRS.Eof()) {
+        if (Val(txtGoal[14]->text()) == 0)
+            txtGoal[14]->setText(NumberText(UserRS.Field(QStringLiteral("TargetWeight"))));
+        if (cboCondition->currentText().isEmpty()) {
+            const QVariant c = UserRS.Field(QStringLiteral("Current_Condition"));
+            if (!IsNull(c)) {
+                const int index = int(Val(c));
+                if (index >= 0 && index < cboCondition->count())
+                    cboCondition->setCurrentIndex(index);
+            }
+        }
+    }
+    UserRS.Close();
+    cmdSave->setEnabled(false);
+    m_loading = was;
+}
+
+void frmWeighIn::showPhoto(const QString& path)
+{
+    Picture1->clear();
+    if (path.isEmpty())
+        return;
+    QPixmap pm(path);
+    if (pm.isNull()) {
+        Picture1->setText(QStringLiteral("The picture %1 cannot be shown.").arg(QFileInfo(path).fileName()));
+        return;
+    }
+    Picture1->setPixmap(pm.scaled(Picture1->size().expandedTo(QSize(320, 320)), Qt::KeepAspectRatio,
+                                  Qt::SmoothTransformation));
+}
+
+void frmWeighIn::fieldChanged()
+{
+    if (m_loading)
+        return;
+    cmdSave->setEnabled(true);
+}
+
+void frmWeighIn::on_calcbmi_clicked()
+{
+    const double weight = Val(txtData[14]->text());
+    const auto bmi = weighin::CalcBMI(weight, m_height, lblWeight->text() == QLatin1String("lbs"));
+    if (!bmi)
+        return;
+    txtBMI->setText(Str(QVariant(*bmi)));
+    cmdSave->setEnabled(true);
+}
+
+void frmWeighIn::on_Command2_clicked()
+{
+    const double weight = Val(txtData[14]->text());
+    const auto bmr = weighin::CalcBMR(weight, lblWeight->text() == QLatin1String("kg"), lblSex->text(), m_age,
+                                      cboCondition->currentText());
+    if (!bmr)
+        return;
+    txtBMR->setText(weighin::FormatBMR(*bmr));
+    cmdSave->setEnabled(true);
+}
+
+void frmWeighIn::on_command3_clicked()
+{
+    const auto fat = weighin::CalcBodyFat(Val(txtData[14]->text()), m_ideal);
+    if (!fat)
+        return;
+    txtData[15]->setText(Str(QVariant(*fat)));
+    cmdSave->setEnabled(true);
+}
+
+void frmWeighIn::on_cmdLastWeighIn_clicked()
+{
+    Guard([this] {
+        SqlText = QStringLiteral("select * from WeighIn where User_ID='") + CurrentUserID +
+                  QStringLiteral("' order by date desc");
+        UserRS.Open(SqlText);
+        QDate last;
+        if (!UserRS.Eof())
+            last = DateOf(UserRS.Field(QStringLiteral("Date")));
+        UserRS.Close();
+        if (!last.isValid())
+            return;
+        LoadWeighIn(last);
+        cmdSave->setEnabled(true);
+        cmdDelete->setEnabled(true);
+    });
+}
+
+void frmWeighIn::on_cmdSave_clicked()
+{
+    Guard([this] {
+        SqlText = QStringLiteral("select * from WeighIn_Goals where User_ID='") + CurrentUserID + QStringLiteral("'");
+        UserRS.Open(SqlText);
+        if (UserRS.Eof()) {
+            UserRS.AddNew();
+            UserRS.SetField(QStringLiteral("User_ID"), CurrentUserID);
+        }
+        for (int i = 0; i < GoalFields; ++i)
+            UserRS.SetField(i + 1, Val(txtGoal[i]->text()));
+        UserRS.Update();
+        UserRS.Close();
+
+        const QString date = GetLocalDate();
+        SqlText = QStringLiteral("select * from WeighIn where User_ID='") + CurrentUserID + QStringLiteral("' and date=#") +
+                  date + QStringLiteral("#");
+        UserRS.Open(SqlText);
+        if (UserRS.Eof()) {
+            UserRS.AddNew();
+            UserRS.SetField(QStringLiteral("User_ID"), CurrentUserID);
+            UserRS.SetField(QStringLiteral("Date"), cboDate->date());
+        }
+        for (int i = 0; i < 14; ++i)
+            UserRS.SetField(i + 2, Val(txtData[i]->text()));
+        UserRS.SetField(QStringLiteral("weight"), Val(txtData[14]->text()));
+        UserRS.SetField(QStringLiteral("Height"), Val(txtHeight->text()));
+        UserRS.SetField(QStringLiteral("BodyFat"), Val(txtData[15]->text()));
+        UserRS.SetField(QStringLiteral("Condition"), cboCondition->currentText());
+        UserRS.SetField(QStringLiteral("BMR"), Val(txtBMR->text()));
+        UserRS.SetField(QStringLiteral("BMI"), Val(txtBMI->text()));
+        UserRS.SetField(QStringLiteral("Vo2"), Val(txtVo2->text()));
+        UserRS.SetField(QStringLiteral("BodyFatMeasure"), txtBFMeasure->text());
+        for (int i = 0; i < 7; ++i)
+            UserRS.SetField(QString::fromLatin1(SkinfoldColumns[i]), Val(txtData[16 + i]->text()));
+        UserRS.SetField(QStringLiteral("Photo"), txtPhoto->text().trimmed());
+        UserRS.Update();
+        UserRS.Close();
+
+        bool listed = false;
+        for (int i = 0; i < lstWeighIns->count(); ++i)
+            if (lstWeighIns->item(i)->data(Qt::UserRole).toDate() == cboDate->date())
+                listed = true;
+        if (!listed) {
+            LoadDates();
+            const bool was = m_loading;
+            m_loading = true;
+            for (int i = 0; i < lstWeighIns->count(); ++i)
+                if (lstWeighIns->item(i)->data(Qt::UserRole).toDate() == cboDate->date())
+                    lstWeighIns->setCurrentRow(i);
+            m_loading = was;
+        }
+        cmdDelete->setEnabled(true);
+        cmdSave->setEnabled(false);
+        MsgBox(QStringLiteral("Weigh In Saved."), vbInformation, Msg());
+    });
+}
+
+void frmWeighIn::on_cmdDelete_clicked()
+{
+    Guard([this] {
+        if (lstWeighIns->count() == 1) {
+            MsgBox(QStringLiteral("The Orvantis must have at least one weight in saved."), vbInformation, Msg());
+            return;
+        }
+        if (MsgBox(QStringLiteral("Delete this Weigh In?"), vbYesNo + vbQuestion, QStringLiteral("Action")) != vbYes)
+            return;
+        QDate date = cboDate->date();
+        if (auto* item = lstWeighIns->currentItem())
+            date = item->data(Qt::UserRole).toDate();
+        SqlText = QStringLiteral("delete * from WeighIn where User_ID='") + CurrentUserID + QStringLiteral("' and date=#") +
+                  date.toString(QStringLiteral("yyyy-MM-dd")) + QStringLiteral("#");
+        UserConn.Execute(SqlText);
+        LoadDates();
+        LoadWeighIn(cboDate->date());
+    });
+}
+
+void frmWeighIn::on_cmdPreviewExercise_clicked()
+{
+    if (auto& report = ReportWeighInLink())
+        Guard([&] { report(GetLocalDate()); });
+}
+
+void frmWeighIn::on_FB1_clicked() { ShowModal(QStringLiteral("Calculator")); }
+
+void frmWeighIn::on_cmdClose_clicked() { close(); }
+
+void frmWeighIn::on_Command1_clicked()
+{
+    FileDialogOptions o;
+    o.title = QStringLiteral("Select an image");
+    o.folder = ProgramFolder() + QStringLiteral("/Images/");
+    o.filter = QStringLiteral("GIF|*.gif|Bitmap|*.bmp|JPEG|*.jpg");
+    o.defaultExt = QStringLiteral("gif");
+    o.mustExist = true;
+    const QString path = FileDialog(o);
+    if (path.isEmpty())
+        return;
+    txtPhoto->setText(path.trimmed());
+    showPhoto(txtPhoto->text());
+}
+
+void frmWeighIn::on_SSCommand1_clicked()
+{
+    txtPhoto->clear();
+    Picture1->clear();
+}
+
+void frmWeighIn::on_cboDate_dateChanged(const QDate& date)
+{
+    if (m_loading)
+        return;
+    Guard([this, date] {
+        const bool was = m_loading;
+        m_loading = true;
+        lstWeighIns->clearSelection();
+        lstWeighIns->setCurrentRow(-1);
+        for (int i = 0; i < lstWeighIns->count(); ++i)
+            if (lstWeighIns->item(i)->data(Qt::UserRole).toDate() == date)
+                lstWeighIns->setCurrentRow(i);
+        m_loading = was;
+        LoadWeighIn(date);
+    });
+}
+
+void frmWeighIn::on_lstWeighIns_itemClicked(QListWidgetItem* item)
+{
+    if (m_loading || !item)
+        return;
+    const QDate d = item->data(Qt::UserRole).toDate();
+    if (d == cboDate->date())
+        Guard([this, d] { LoadWeighIn(d); });
+    else
+        cboDate->setDate(d);
+}
+
+void frmWeighIn::on_cboGraph_currentIndexChanged(int)
+{
+    if (m_loading)
+        return;
+    Guard([this] { Graph(); });
+}
+
+void frmWeighIn::on_cmdGraph_clicked() { Guard([this] { Graph(); }); }
+
+void frmWeighIn::on_cmdPrintGraph_clicked() { Chart1->Print(); }
+
+void frmWeighIn::Graph()
+{
+    const QString item = cboGraph->currentText();
+    if (item.isEmpty())
+        return;
+    const QDate from = txtStartDate->date();
+    const QDate to = txtEndDate->date();
+    QString column;
+    if (item == QLatin1String("Weight"))
+        column = QStringLiteral("weight");
+    else if (item == QLatin1String("Height"))
+        column = QStringLiteral("height");
+    else if (item == QLatin1String("Bodyfat"))
+        column = QStringLiteral("bodyfat");
+    else
+        column = item;
+    const QString range = QStringLiteral(" from WeighIn where User_ID='") + CurrentUserID +
+                          QStringLiteral("' and date between #") + from.toString(QStringLiteral("yyyy-MM-dd")) +
+                          QStringLiteral("# and #") + to.toString(QStringLiteral("yyyy-MM-dd")) +
+                          QStringLiteral("# order by Date asc");
+    if (column == QLatin1String("weight") || column == QLatin1String("height") || column == QLatin1String("bodyfat"))
+        SqlText = QStringLiteral("select date,") + column + range;
+    else
+        SqlText = QStringLiteral("select date,") + column + QStringLiteral(" ") + range;
+
+    Chart1->Clear();
+    Chart1->SetStyle(Chart::Line);
+    Chart1->SetSeriesNames({item});
+    Chart1->SetTitle(item + QStringLiteral(" - ") + regional::ShortDate(from) + QStringLiteral(" - ") +
+                     regional::ShortDate(to));
+    UserRS.Open(SqlText);
+    while (!UserRS.Eof()) {
+        const QDate d = DateOf(UserRS.Field(0));
+        Chart1->AddPoint(regional::ShortDate(d), {Val(UserRS.Field(1))});
+        UserRS.MoveNext();
+    }
+    UserRS.Close();
+}
+
+void frmWeighIn::SetTargetCalories()
+{
+    SqlText = QStringLiteral("select * from WeighIn where User_ID='") + CurrentUserID + QStringLiteral("' order by date desc");
+    UserRS.Open(SqlText);
+    if (UserRS.Eof()) {
+        UserRS.Close();
+        return;
+    }
+    const double bmr = Val(Str(UserRS.Field(QStringLiteral("BMR"))));
+    const double weight = Val(Str(UserRS.Field(QStringLiteral("weight"))));
+    Q_UNUSED(weight);
+    UserRS.Close();
+
+    SqlText = QStringLiteral("select * from User_Info where User_ID=") + CurrentUserID;
+    UserRS.Open(SqlText);
+    if (!UserRS.Eof()) {
+        const double diet = Val(Str(UserRS.Field(QStringLiteral("DietCalsPerDay"))));
+        UserRS.SetField(QStringLiteral("TargetCals"), weighin::TargetCalories(bmr, diet));
+        UserRS.Update();
+    }
+    UserRS.Close();
+}
+
+void frmWeighIn::done(int result)
+{
+    Guard([this] { SetTargetCalories(); });
+    QDialog::done(result);
+}
