@@ -1,0 +1,158 @@
+#include "core/frmWebView.h"
+#include "core/routines.h"
+#include "core/shared.h"
+#include "core/ui.h"
+#include "core/widgets/PageView.h"
+
+#include <QComboBox>
+#include <QFile>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPrinter>
+#include <QPushButton>
+#include <QRegularExpression>
+#include <QStringDecoder>
+#include <QVBoxLayout>
+
+namespace {
+constexpr int MediumSize = 2;   // index of "Medium" in cboFontSize
+}
+
+frmWebView::frmWebView(QWidget* parent) : QDialog(parent)
+{
+    setObjectName(QStringLiteral("frmWebView"));
+    setWindowTitle(QStringLiteral("Print Preview"));
+    setWindowFlag(Qt::WindowMaximizeButtonHint, true);
+    setSizeGripEnabled(true);
+
+    browser = new PageView(this);
+    cboFontSize = new QComboBox(this);
+    cboFontSize->setObjectName(QStringLiteral("cboFontSize"));
+    cboFontSize->addItems({QStringLiteral("Smallest"), QStringLiteral("Smaller"), QStringLiteral("Medium"),
+                           QStringLiteral("Larger"), QStringLiteral("Largest")});
+    auto* lblFont = new QLabel(QStringLiteral("&Font Size:"), this);
+    lblFont->setBuddy(cboFontSize);
+
+    auto makeButton = [this](const char* name, const QString& caption) {
+        auto* b = new QPushButton(caption, this);
+        b->setObjectName(QString::fromLatin1(name));
+        b->setAutoDefault(false);
+        return b;
+    };
+    cmdPrint = makeButton("cmdPrint", QStringLiteral("&Print"));
+    cmdSave = makeButton("cmdSave", QStringLiteral("&Save"));
+    cmdSend = makeButton("cmdSend", QStringLiteral("&Share on the Web"));
+    cmdClose = makeButton("cmdClose", QStringLiteral("&Close"));
+
+    auto* bar = new QHBoxLayout;
+    bar->addWidget(cmdPrint);
+    bar->addWidget(cmdSave);
+    bar->addWidget(cmdSend);
+    bar->addSpacing(12);
+    bar->addWidget(lblFont);
+    bar->addWidget(cboFontSize);
+    bar->addStretch();
+    bar->addWidget(cmdClose);
+    auto* layout = new QVBoxLayout(this);
+    layout->addLayout(bar);
+    layout->addWidget(browser, 1);
+
+    cboFontSize->setCurrentIndex(MediumSize);
+    QMetaObject::connectSlotsByName(this);
+
+    cmdSend->setVisible(!HelpOpen && static_cast<bool>(SendPage));
+    browser->LoadFile(PagePath());
+    if (HelpOpen && !browser->PageTitle().isEmpty())
+        setWindowTitle(browser->PageTitle());
+    resize(820, 700);
+    CenterForm(this);
+    m_loading = false;
+}
+
+QString frmWebView::PagePath() const
+{
+    QString name = ReportFile;
+    name.remove('/');
+    name.remove('\\');
+    return ProgramFile(name);
+}
+
+void frmWebView::ShowHelp(const QString& fileName)
+{
+    HelpOpen = true;
+    const QString saved = ReportFile;
+    ReportFile = fileName;
+    ShowModal(QStringLiteral("frmWebView"));
+    ReportFile = saved;
+    HelpOpen = false;
+}
+
+void frmWebView::on_cmdPrint_clicked()
+{
+    QPrinter& printer = ProgramPrinter();
+    const QString title = browser->PageTitle();
+    printer.setDocName(title.isEmpty() ? ReportFile : title);
+    if (!PrintDialog(&printer)) return;
+    QString error;
+    if (browser->Print(&printer, &error))
+        MsgBox(QStringLiteral("Report printed."), vbInformation, QStringLiteral("Message"));
+    else
+        MsgBox(QStringLiteral("Error trying to print.Error:") + error, vbInformation, QStringLiteral("Message"));
+}
+
+void frmWebView::on_cmdSave_clicked()
+{
+    FileDialogOptions o;
+    o.save = true;
+    o.folder = ProgramFolder();
+    o.defaultExt = QStringLiteral("html");
+    o.filter = QStringLiteral("Html File|*.html");
+    const QString target = FileDialog(o);
+    if (target.isEmpty()) return;
+    if (QFile::exists(target)) QFile::remove(target);
+    if (!QFile::copy(PagePath(), target))
+        MsgBox(QStringLiteral("Error saving the page to ") + target, vbInformation, QStringLiteral("Error"));
+}
+
+void frmWebView::on_cmdSend_clicked()
+{
+    if (SendPage) SendPage(this);
+}
+
+void frmWebView::on_cmdClose_clicked() { accept(); }
+
+bool frmWebView::HtmlEdit(const QString& from, const QString& to, int steps)
+{
+    QFile in(from);
+    if (!in.open(QIODevice::ReadOnly)) return false;
+    QString text = QString::fromUtf8(in.readAll());
+    in.close();
+    static const QRegularExpression size(QStringLiteral("size=\"(\\d+)\""), QRegularExpression::CaseInsensitiveOption);
+    QString out;
+    qsizetype pos = 0;
+    auto it = size.globalMatch(text);
+    while (it.hasNext()) {
+        const auto m = it.next();
+        out += text.mid(pos, m.capturedStart() - pos);
+        const int n = qBound(1, m.captured(1).toInt() + steps, 7);
+        out += QStringLiteral("size=\"") + QString::number(n) + '"';
+        pos = m.capturedEnd();
+    }
+    out += text.mid(pos);
+    QFile o(to);
+    if (!o.open(QIODevice::WriteOnly | QIODevice::Truncate)) return false;
+    o.write(out.toUtf8());
+    return true;
+}
+
+void frmWebView::on_cboFontSize_currentIndexChanged(int index)
+{
+    if (m_loading || index < 0) return;
+    // The source page stays as it is; the viewer shows a copy with the sizes moved.
+    if (index == MediumSize) {
+        browser->LoadFile(PagePath());
+        return;
+    }
+    const QString temp = ProgramFile(QStringLiteral("tempfile.htm"));
+    if (HtmlEdit(PagePath(), temp, index - MediumSize)) browser->LoadFile(temp);
+}
