@@ -31,7 +31,7 @@ NUTRIENTS = [
     ("protein", 5), ("Fat", 6), ("Carbs", 8), ("Fiber", 9), ("Sodium", 16),
     ("Potassium", 15), ("Calcium", 11), ("Iron", 12), ("Cholesterol", 46), ("Sugar", 10),
     ("Caffeine", None), ("Fat-Saturated", 43), ("Fat-Monounsaturated", 44),
-    ("Fat-Polyunsaturated", 45), ("Folate", 30), ("Vit_A", 34), ("Vit_C", 21),
+    ("Fat-Polyunsaturated", 45), ("Folate", 27), ("Vit_A", 34), ("Vit_C", 21),
     ("Vit_D", None), ("Vit_E", 41), ("Vit_K", 42), ("Vit_B6", 26), ("Vit_B12", 32),
     ("Niacin", 24), ("Thiamin", 22), ("Riboflavin", 23), ("Magnesium", 13), ("Zinc", 17),
     ("Phosphorus", 14), ("Copper", 18), ("Manganese", 19), ("Selenium", 20),

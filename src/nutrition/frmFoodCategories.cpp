@@ -1,0 +1,142 @@
+#include "nutrition/frmFoodCategories.h"
+
+#include <QComboBox>
+#include <QFormLayout>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include "core/shared.h"
+#include "core/store/value.h"
+#include "core/ui.h"
+
+frmFoodCategories::frmFoodCategories(QWidget* parent) : QDialog(parent)
+{
+    setObjectName(QStringLiteral("frmFoodCategories"));
+    setWindowTitle(QStringLiteral("Food Categories"));
+    resize(380, 460);
+    cboType = new QComboBox(this);
+    cboType->setObjectName(QStringLiteral("cboType"));
+    lstGroups = new QListWidget(this);
+    lstGroups->setObjectName(QStringLiteral("lstGroups"));
+    txtGroup = new QLineEdit(this);
+    txtGroup->setObjectName(QStringLiteral("txtGroup"));
+    cmdAdd = new QPushButton(QStringLiteral("&Add"), this);
+    cmdAdd->setObjectName(QStringLiteral("cmdAdd"));
+    cmdDelete = new QPushButton(QStringLiteral("&Delete"), this);
+    cmdDelete->setObjectName(QStringLiteral("cmdDelete"));
+    cmdClose = new QPushButton(QStringLiteral("&Close"), this);
+    cmdClose->setObjectName(QStringLiteral("cmdClose"));
+    for (auto* b : {cmdAdd, cmdDelete, cmdClose})
+        b->setAutoDefault(false);
+
+    auto* form = new QFormLayout;
+    auto* lblType = new QLabel(QStringLiteral("&Type:"), this);
+    lblType->setBuddy(cboType);
+    form->addRow(lblType, cboType);
+    auto* lblGroups = new QLabel(QStringLiteral("Ca&tegories:"), this);
+    lblGroups->setBuddy(lstGroups);
+    auto* lblNew = new QLabel(QStringLiteral("&New category:"), this);
+    lblNew->setBuddy(txtGroup);
+    auto* addRow = new QHBoxLayout;
+    addRow->addWidget(txtGroup, 1);
+    addRow->addWidget(cmdAdd);
+    auto* buttons = new QHBoxLayout;
+    buttons->addWidget(cmdDelete);
+    buttons->addStretch(1);
+    buttons->addWidget(cmdClose);
+    auto* lay = new QVBoxLayout(this);
+    lay->addLayout(form);
+    lay->addWidget(lblGroups);
+    lay->addWidget(lstGroups, 1);
+    lay->addWidget(lblNew);
+    lay->addLayout(addRow);
+    lay->addLayout(buttons);
+
+    connect(cboType, &QComboBox::currentIndexChanged, this, [this] { Guard([&] { LoadGroups(); }); });
+    connect(cmdAdd, &QPushButton::clicked, this, [this] { Guard([&] { on_cmdAdd_clicked(); }); });
+    connect(txtGroup, &QLineEdit::returnPressed, this, [this] { Guard([&] { on_cmdAdd_clicked(); }); });
+    connect(cmdDelete, &QPushButton::clicked, this, [this] { Guard([&] { on_cmdDelete_clicked(); }); });
+    connect(cmdClose, &QPushButton::clicked, this, &QDialog::accept);
+
+    Guard([this] { LoadTypes(); });
+    CenterForm(this);
+}
+
+void frmFoodCategories::LoadTypes()
+{
+    cboType->blockSignals(true);
+    cboType->clear();
+    SqlText = QStringLiteral("select distinct type from food_groups");
+    LibraryRS.Open(SqlText, &LibraryConn);
+    while (!LibraryRS.Eof()) {
+        cboType->addItem(Str(LibraryRS.Field(0)));
+        LibraryRS.MoveNext();
+    }
+    LibraryRS.Close();
+    const int foods = cboType->findText(QStringLiteral("Foods"));
+    cboType->setCurrentIndex(foods >= 0 ? foods : (cboType->count() ? 0 : -1));
+    cboType->blockSignals(false);
+    LoadGroups();
+}
+
+void frmFoodCategories::LoadGroups()
+{
+    lstGroups->clear();
+    SqlText = "select Group,Group_ID from food_groups where type='" + SqlQuote(cboType->currentText()) + "'";
+    LibraryRS.Open(SqlText, &LibraryConn);
+    while (!LibraryRS.Eof()) {
+        auto* it = new QListWidgetItem(Str(LibraryRS.Field(0)), lstGroups);
+        it->setData(Qt::UserRole, LibraryRS.Field(1));
+        LibraryRS.MoveNext();
+    }
+    LibraryRS.Close();
+}
+
+void frmFoodCategories::on_cmdAdd_clicked()
+{
+    const QString name = txtGroup->text();
+    const QString type = cboType->currentText();
+    if (name.trimmed().isEmpty() || type.isEmpty())
+        return;
+    SqlText = "select * from food_groups where food_groups.group='" + SqlQuote(name) + "' and type='" +
+              SqlQuote(type) + "'";
+    LibraryRS.Open(SqlText, &LibraryConn);
+    const bool exists = !LibraryRS.Eof();
+    LibraryRS.Close();
+    if (exists) {
+        MsgBox(QStringLiteral("This food group already exists."), vbOKOnly + vbInformation, QStringLiteral("Message"));
+        return;
+    }
+    LibraryRS.Open(QStringLiteral("food_groups"), &LibraryConn);
+    LibraryRS.AddNew();
+    LibraryRS.SetField("Group", name);
+    LibraryRS.SetField("Type", type);
+    LibraryRS.Update();
+    LibraryRS.Close();
+    MsgBox(QStringLiteral("Food Group Added."), vbOKOnly + vbInformation, QStringLiteral("Message"));
+    txtGroup->clear();
+    LoadGroups();
+}
+
+void frmFoodCategories::on_cmdDelete_clicked()
+{
+    QListWidgetItem* it = lstGroups->currentItem();
+    if (!it)
+        return;
+    if (lstGroups->count() == 1) {
+        MsgBox(QStringLiteral("You must have at least one category for the program to function."),
+               vbOKOnly + vbInformation, QStringLiteral("Message"));
+        return;
+    }
+    if (MsgBox(QStringLiteral("Delete this food group and all associated foods?"), vbYesNo + vbQuestion,
+               QStringLiteral("Action")) != vbYes)
+        return;
+    const QString id = Str(it->data(Qt::UserRole));
+    LibraryConn.Execute("delete * from food_groups where group_id=" + id);
+    LibraryConn.Execute("delete * from foods where group_id=" + id);
+    LoadGroups();
+}
