@@ -1,0 +1,38 @@
+#pragma once
+// The calendar table, the spine of every day: one row per thing planned or done, tied to
+// its log by athlete, date and key. Saving an entry, the icons of the month view, the
+// entries of the day view and the calories the day's entries burn.
+#include <QDate>
+#include <QDateTime>
+#include <QString>
+#include <QTime>
+#include <QVariant>
+
+class IDayView;
+class MonthCalendar;
+
+// Writes the entry whose key is SelectedKey: deletes any row of that key and type on the
+// date, adds the new one and redraws the date's icons.
+void SaveCalendarEntry(const QString& name, const QString& workoutType, const QDate& date, const QString& startTime,
+                       const QString& endTime, int image);
+
+// The sum of Cals over the entries of the selected day.
+long DayCalories();
+
+// Fills a day view with the entries of CalendarDate(); each entry's hidden text is
+// WorkoutType + tab + Key and its colour AppColor.
+void LoadDayView(IDayView* view);
+
+// Redraws icons: mode 1 the given date only, otherwise every date of the athlete.
+void LoadCalendarIcons(MonthCalendar* calendar, const QDate& date, int mode);
+// The same on the open planner's calendar; nothing when no planner is open.
+void LoadCalendarIcons(const QDate& date, int mode);
+
+// A date and time as entries keep their times: "YYYY-MM-DD h:mm:ss AM".
+QString EntryTimeText(const QDateTime& dt);
+// The time of day in a stored StartTime or EndTime, whatever form it was written in
+// ("9:00 AM", "2024-03-01 09:00:00", "3/1/2024 9:00:00 AM", a date-time value); invalid when
+// there is none.
+QTime EntryTime(const QVariant& stored);
+// A stored date field as a date.
+QDate FieldDate(const QVariant& v);
