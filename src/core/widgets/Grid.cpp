@@ -118,8 +118,6 @@ private:
     Grid* m_grid;
 };
 
-struct Grid::CellInfo {};
-
 Grid::Grid(QWidget* parent) : QTableWidget(parent)
 {
     setItemDelegate(new GridDelegate(this));
@@ -562,18 +560,23 @@ bool Grid::Evaluate(const QString& formula, const std::function<double(int, int)
     }
 }
 
-double Grid::formulaValue(int row, int col, int depth) const
+double Grid::formulaValue(int row, int col, QSet<qint64>& visiting, bool& circular) const
 {
     auto* it = item(row, col);
     if (!it)
         return 0.0;
     if (GetCellType(row, col) != TypeFormula)
         return Value(row, col);
-    if (depth > 64)
-        return 0.0;   // a circular reference
+    const qint64 key = (qint64(row) << 32) | quint32(col);
+    if (visiting.contains(key)) {
+        circular = true;
+        return 0.0;
+    }
+    visiting.insert(key);
     double v = 0;
     const bool ok = Evaluate(it->data(RoleFormula).toString(),
-                             [&](int r, int c) { return formulaValue(r, c, depth + 1); }, &v);
+                             [&](int r, int c) { return formulaValue(r, c, visiting, circular); }, &v);
+    visiting.remove(key);
     return ok && std::isfinite(v) ? v : 0.0;
 }
 
@@ -597,8 +600,11 @@ void Grid::showFormulaResult(int row, int col)
     if (!it)
         return;
     double v = 0;
-    const bool ok = Evaluate(it->data(RoleFormula).toString(),
-                             [&](int r, int c) { return formulaValue(r, c, 1); }, &v);
+    QSet<qint64> visiting{(qint64(row) << 32) | quint32(col)};
+    bool circular = false;
+    bool ok = Evaluate(it->data(RoleFormula).toString(),
+                       [&](int r, int c) { return formulaValue(r, c, visiting, circular); }, &v);
+    ok = ok && !circular;   // a circular reference cannot be computed
     it->setData(RoleError, !ok);
     it->setData(RoleValue, ok ? v : 0.0);
     if (!ok)

@@ -12,13 +12,15 @@
 // time ("hh:mm:ss") and formula. A formula cell shows the value of an expression over other
 // cells of the same grid, in A1 form (column letter, row number: "B1" is row 1 column 2), with
 // + - * / ^, parentheses, ranges ("B1:B3") and the functions sum, avg, min, max (any case).
-// Formulas are recomputed whenever a cell changes. A formula that cannot be read shows "#ERR";
-// a division by zero shows nothing (value 0).
+// Formulas are recomputed whenever a cell changes. A formula that cannot be read, or that
+// refers to itself through other cells, shows "#ERR"; a division by zero shows nothing. Both
+// count 0 in Value().
 //
 // Signals use the same numbering: CellEdited(row, col) after the user committed a change in a
 // cell (not after SetText), LeaveCell(row, col, newRow, newCol) when the current cell moves.
 #include <QTableWidget>
 #include <QColor>
+#include <QSet>
 #include <QStringList>
 #include <functional>
 
@@ -125,12 +127,11 @@ signals:
 
 private:
     friend class GridDelegate;
-    struct CellInfo;
     QTableWidgetItem* item(int row, int col) const;   // data cell, created on demand
     QTableWidgetItem* ensureItem(int row, int col);
     void applyType(QTableWidgetItem* it, int row, int col);
     void showFormulaResult(int row, int col);
-    double formulaValue(int row, int col, int depth) const;
+    double formulaValue(int row, int col, QSet<qint64>& visiting, bool& circular) const;
     QString formatNumber(double v, int col) const;
     void onItemChanged(QTableWidgetItem* it);
     void writeLog(const QString& logFile, const QString& line) const;

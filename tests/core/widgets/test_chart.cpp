@@ -1,0 +1,150 @@
+// The shared chart at model level: pie values, series by day, zoom and pan, the value under
+// the pointer, printing through the printer dialog.
+#include <gtest/gtest.h>
+#include <QCoreApplication>
+#include <QFile>
+#include <QPrinter>
+#include <QScrollBar>
+#include <QTemporaryDir>
+#include <QtCharts/QBarSeries>
+#include <QtCharts/QChart>
+#include <QtCharts/QChartView>
+#include <QtCharts/QLineSeries>
+#include <QtCharts/QPieSeries>
+#include <cmath>
+
+#include "core/widgets/Chart.h"
+#include "fixtures/fixture.h"
+
+namespace {
+
+// Ten days, calories and protein.
+void FillDays(Chart& c, int days = 10)
+{
+    c.SetSeriesNames({"Calories", "Protein"});
+    for (int i = 0; i < days; ++i)
+        c.AddPoint(QStringLiteral("%1-01-26").arg(i + 1, 2, 10, QChar('0')), {1000.0 + 100 * i, 50.0 + i});
+}
+
+}  // namespace
+
+TEST(ChartModel, PieSlicesAndSeriesByDay)
+{
+    Chart c;
+    c.SetTitle("Percent of Total Calories");
+    c.SetPieSlices({"Carbs", "Fat", "Protein"});
+    EXPECT_EQ(c.GetStyle(), Chart::Pie);
+    c.SetPieValue(1, 55);
+    c.SetPieValue(2, 30);
+    c.SetPieValue(3, 15);
+    c.SetPieValue(4, 99);   // no such slice: ignored
+    EXPECT_DOUBLE_EQ(c.PieValue(2), 30);
+    EXPECT_DOUBLE_EQ(c.PieValue(4), 0);
+    auto* pie = qobject_cast<QPieSeries*>(c.GetChart()->series().value(0));
+    ASSERT_TRUE(pie);
+    ASSERT_EQ(pie->count(), 3);
+    EXPECT_DOUBLE_EQ(pie->slices()[0]->value(), 55);
+    EXPECT_EQ(c.GetChart()->title(), "Percent of Total Calories");
+    c.ClearPie();
+    EXPECT_DOUBLE_EQ(c.PieValue(1), 0);
+
+    Chart d;
+    d.SetStyle(Chart::Bar);
+    FillDays(d, 3);
+    EXPECT_EQ(d.PointCount(), 3);
+    EXPECT_EQ(d.SeriesCount(), 2);
+    EXPECT_EQ(d.Label(2), "03-01-26");
+    EXPECT_DOUBLE_EQ(d.SeriesValue(0, 2), 1200);
+    EXPECT_DOUBLE_EQ(d.SeriesValue(1, 0), 50);
+    EXPECT_DOUBLE_EQ(d.SeriesValue(5, 0), 0);
+    EXPECT_EQ(d.PointText(0, 1), "02-01-26: Calories 1100");
+    EXPECT_EQ(d.PointText(1, 2), "03-01-26: Protein 52");
+    auto* bars = qobject_cast<QBarSeries*>(d.GetChart()->series().value(0));
+    ASSERT_TRUE(bars);
+    EXPECT_EQ(bars->count(), 2);
+
+    // One day still draws one bar; a missing second value counts 0; Line draws one line a series.
+    Chart e;
+    e.SetSeriesNames({"Weight"});
+    e.AddPoint("01-02-26", {180});
+    EXPECT_EQ(e.PointCount(), 1);
+    e.SetStyle(Chart::Line);
+    EXPECT_EQ(e.GetChart()->series().size(), 1);
+    EXPECT_TRUE(qobject_cast<QLineSeries*>(e.GetChart()->series().value(0)));
+    e.SetData({"a", "b"}, {{1, 2}, {3}});
+    EXPECT_EQ(e.SeriesCount(), 2);
+    EXPECT_DOUBLE_EQ(e.SeriesValue(1, 1), 0);
+    e.Clear();
+    EXPECT_EQ(e.PointCount(), 0);
+    EXPECT_EQ(e.SeriesNames().size(), 2);
+}
+
+TEST(ChartModel, ZoomPanAndPointer)
+{
+    Chart c;
+    c.resize(800, 500);
+    c.SetStyle(Chart::Bar);
+    FillDays(c);
+    c.show();
+    QCoreApplication::processEvents();
+
+    EXPECT_FALSE(c.IsZoomed());
+    c.SetView(2, 4);
+    EXPECT_TRUE(c.IsZoomed());
+    EXPECT_EQ(c.FirstVisible(), 2);
+    EXPECT_EQ(c.VisibleCount(), 4);
+    auto* scroll = c.findChild<QScrollBar*>();
+    ASSERT_TRUE(scroll);
+    EXPECT_TRUE(scroll->isVisible());
+    EXPECT_EQ(scroll->maximum(), 6);
+    scroll->setValue(5);                          // panning
+    EXPECT_EQ(c.FirstVisible(), 5);
+    c.SetView(9, 4);                              // clamped to the data
+    EXPECT_EQ(c.FirstVisible(), 6);
+    c.ZoomOut();
+    EXPECT_FALSE(c.IsZoomed());
+    EXPECT_EQ(c.VisibleCount(), 10);
+    EXPECT_FALSE(scroll->isVisible());
+
+    // The point under the pointer: the centre of the plot is among the middle days.
+    QChart* chart = c.GetChart();
+    const QRectF plot = chart->plotArea();
+    auto toView = [&](const QPointF& chartPos) {
+        return c.View()->mapFromScene(chart->mapToScene(chartPos));
+    };
+    const QPointF firstBar = chart->mapToPosition(QPointF(0, 500));
+    int series = -1;
+    EXPECT_EQ(c.PointAt(toView(firstBar), &series), 0);
+    EXPECT_EQ(c.PointAt(toView(plot.topLeft() - QPointF(20, 20))), -1);   // outside the plot
+
+    // Zoom by a rectangle over days 3 to 5 (0-based 2..4), values 0..800.
+    const QPointF a = chart->mapToPosition(QPointF(1.7, 800));
+    const QPointF b = chart->mapToPosition(QPointF(4.3, 0));
+    c.ZoomToRect(QRectF(toView(a), toView(b)));
+    EXPECT_EQ(c.FirstVisible(), 2);
+    EXPECT_EQ(c.VisibleCount(), 3);
+    EXPECT_NEAR(c.ViewHigh(), 800, 20);
+    EXPECT_NEAR(c.ViewLow(), 0, 20);
+}
+
+TEST(ChartModel, PrintsThroughThePrinterDialog)
+{
+    QTemporaryDir dir;
+    ScriptedUi ui;
+    Chart c;
+    c.SetTitle("Weight");
+    FillDays(c, 5);
+
+    QPrinter printer(QPrinter::HighResolution);
+    printer.setOutputFormat(QPrinter::PdfFormat);
+    printer.setOutputFileName(dir.filePath("chart.pdf"));
+    ui.AnswerPrint(false);
+    EXPECT_FALSE(c.Print(&printer));                 // cancelled: nothing printed
+    EXPECT_FALSE(QFile::exists(dir.filePath("chart.pdf")));
+    ui.AnswerPrint(true);
+    EXPECT_TRUE(c.Print(&printer));
+    QFile pdf(dir.filePath("chart.pdf"));
+    ASSERT_TRUE(pdf.open(QIODevice::ReadOnly));
+    EXPECT_TRUE(pdf.read(4) == "%PDF");
+    EXPECT_GT(pdf.size(), 1000);
+}
