@@ -25,7 +25,14 @@ public:
         NotUpdatable = 3251,        // the operation is not supported by this recordset
         NotOpen = 3704,             // the recordset is closed
         ConstraintViolation = 3022, // a duplicate key
-        Generic = 3000
+        Generic = 3000,
+        FileExists = 58,            // a store file to be created that is already there
+        AlreadyOpen = 3705,         // opening a recordset or connection that is open
+        NoSuchTable = 3078,         // a table the statement names is not in the store
+        MissingValue = 3061,        // a name in the statement that is no column
+        TypeMismatch = 3421,        // a value of the wrong type for a field
+        NullNotAllowed = 3314       // a Null into a field that requires a value
+
     };
 
 private:

@@ -15,3 +15,7 @@ QString Str(const QVariant& v);
 bool IsNull(const QVariant& v);
 // Doubles each ' so a text can be pasted into SQL.
 QString SqlQuote(const QString& text);
+
+// The text of a number as Str gives it: whole numbers without a point, others with up to 15
+// significant digits ("0.3" for 0.1 + 0.2), an exponent only for very large or small numbers.
+QString NumberText(double value);

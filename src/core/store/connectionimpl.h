@@ -1,0 +1,155 @@
+#pragma once
+// The inside of a Connection, shared with Recordset: the SQLite handle, the caches of
+// translations and prepared statements, what is known of each table, and the mapping of
+// SQLite's failures onto the store's errors.
+#include <QHash>
+#include <QString>
+#include <QStringList>
+#include <functional>
+#include <memory>
+#include <unordered_map>
+#include <vector>
+
+#include "core/store/fieldvalue.h"
+#include "core/store/storeerror.h"
+#include "core/store/translation.h"
+
+struct sqlite3;
+struct sqlite3_stmt;
+
+// A cache that keeps what was used lately: when the current generation is full it becomes the
+// old one, and what the old one held and was not used again is dropped.
+template <class V>
+class RecentCache {
+public:
+    RecentCache(size_t capacity, std::function<void(V&)> drop) : m_capacity(capacity), m_drop(std::move(drop)) {}
+    ~RecentCache() { Clear(); }
+
+    V* Find(const QString& key)
+    {
+        auto it = m_current.find(key);
+        if (it != m_current.end()) return &it->second;
+        auto old = m_old.find(key);
+        if (old == m_old.end()) return nullptr;
+        V v = std::move(old->second);
+        m_old.erase(old);
+        return Insert(key, std::move(v));
+    }
+    V* Insert(const QString& key, V v)
+    {
+        if (m_current.size() >= m_capacity) {
+            for (auto& e : m_old) m_drop(e.second);
+            m_old = std::move(m_current);
+            m_current = {};
+        }
+        return &m_current.insert_or_assign(key, std::move(v)).first->second;
+    }
+    void Clear()
+    {
+        for (auto& e : m_current) m_drop(e.second);
+        for (auto& e : m_old) m_drop(e.second);
+        m_current.clear();
+        m_old.clear();
+    }
+    template <class F>
+    void ForEach(F f)
+    {
+        for (auto& e : m_current) f(e.second);
+        for (auto& e : m_old) f(e.second);
+    }
+
+private:
+    size_t m_capacity;
+    std::function<void(V&)> m_drop;
+    std::unordered_map<QString, V> m_current, m_old;
+};
+
+// The columns of a statement as a recordset shows them.
+struct RecordLayout {
+    struct Column {
+        QString name;               // as the recordset names it ("a.Group_ID" where two tables share a name)
+        fieldvalue::Kind kind;
+        QString origin;             // the base table's column it comes from; empty for an expression
+    };
+    std::vector<Column> columns;    // without the hidden rowid
+    bool hasRowId = false;          // column 0 of the statement is the rowid
+    QHash<QString, int> byName;     // lower-case names -> position
+    mutable QHash<QString, int> bySpelling;   // names as asked for, found before
+
+    int Find(const QString& name) const
+    {
+        auto it = bySpelling.constFind(name);
+        if (it != bySpelling.constEnd()) return *it;
+        auto low = byName.constFind(name.toLower());
+        if (low == byName.constEnd()) return -1;
+        bySpelling.insert(name, *low);
+        return *low;
+    }
+};
+
+struct CachedStatement {
+    sqlite3_stmt* stmt = nullptr;
+    std::shared_ptr<const RecordLayout> layout;
+    quint64 generation = 0;         // the schema generation the layout belongs to
+};
+
+// What the store knows of a table's columns.
+struct TableInfo {
+    struct Column {
+        QString name;
+        QString declaredType;
+        fieldvalue::Kind kind;
+        bool notNull = false;
+        QVariant defaultValue;      // as a field of the column's kind
+        bool defaultKnown = true;   // false for a default SQLite computes (CURRENT_TIMESTAMP ...)
+    };
+    QString name;                   // as the store spells it
+    std::vector<Column> columns;
+    int rowIdColumn = -1;           // the INTEGER PRIMARY KEY (autonumber) column, if any
+    bool defaultsKnown = true;
+
+    int Find(const QString& column) const;
+};
+
+class ConnectionImpl {
+public:
+    ConnectionImpl();
+    ~ConnectionImpl();
+
+    sqlite3* db = nullptr;
+    QString path;
+    int transactionDepth = 0;
+    quint64 schemaGeneration = 1;
+
+    bool IsOpen() const { return db != nullptr; }
+    void RequireOpen() const;
+
+    // The translation of a dialect statement, cached.
+    std::shared_ptr<const Translation> Translate(const QString& dialectSql);
+    // A prepared statement for SQLite text, cached and reset. It stays valid until the next
+    // call of Prepare.
+    CachedStatement& Prepare(const QString& sqliteSql);
+    // Runs a statement on its own (prepared, run and finalized); for DDL and pragmas.
+    void Exec(const QString& sqliteSql);
+    // Steps a prepared statement to its end; throws the store's error on failure.
+    void RunToEnd(sqlite3_stmt* stmt, const QString& sqlForMessage);
+
+    const TableInfo& Table(const QString& name);
+    void SchemaChanged();
+
+    long Execute(const QString& dialectSql);
+    void AlterColumn(const Translation& t);
+
+    void Close();
+
+    // SQLite's failure rc on the statement text, as the store's error.
+    [[noreturn]] void Throw(int rc, const QString& sql) const;
+
+private:
+    RecentCache<std::shared_ptr<const Translation>> m_translations;
+    RecentCache<CachedStatement> m_statements;
+    QHash<QString, std::shared_ptr<TableInfo>> m_tables;
+};
+
+// The store's error for a failure of SQLite.
+StoreError SqliteFailure(sqlite3* db, int rc, const QString& sql);

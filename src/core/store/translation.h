@@ -1,0 +1,21 @@
+#pragma once
+// A statement of the dialect translated for SQLite, with what the connection and recordsets
+// need to know of it. Connection caches these.
+#include <QString>
+#include <vector>
+#include "core/store/dialect.h"
+
+struct Translation {
+    sqldialect::Statement::Kind kind = sqldialect::Statement::Other;
+    QString sql;            // SQLite's text ("" for ALTER COLUMN, which the connection carries out)
+    QString sqlWithRowId;   // an updatable select or bare table: the same with each row's rowid first
+    bool updatable = false;
+    QString table;          // the table the statement works on
+    QString alias;
+    std::vector<sqldialect::TableRef> from;
+    sqldialect::ColumnDef column;   // alter table add / alter column: the column
+    QString columnType;             // its declared type in SQLite
+};
+
+// Throws StoreError(SyntaxError) on text the dialect's reader cannot read.
+Translation TranslateForSqlite(const QString& dialectSql);
