@@ -153,6 +153,7 @@ void frmUserInfo::BuildPersonalTab()
         sexLay->addWidget(r);
         optsex << r;
     }
+    sexLay->addStretch();
     auto* unitBox = new QGroupBox(QStringLiteral("Personal Measurements"));
     auto* unitLay = new QHBoxLayout(unitBox);
     auto* unitGroup = new QButtonGroup(this);
@@ -163,14 +164,15 @@ void frmUserInfo::BuildPersonalTab()
         unitLay->addWidget(r);
         optMetric << r;
     }
+    unitLay->addStretch();
 
     int row = 0;
     g->addWidget(Caption(QStringLiteral("&Name"), txtName), row, 0);
-    g->addWidget(txtName, row++, 1, 1, 3);
+    g->addWidget(txtName, row++, 1, 1, 2);
     g->addWidget(Caption(QStringLiteral("&Age"), txtAge), row, 0);
     g->addWidget(txtAge, row++, 1);
-    g->addWidget(sexBox, row++, 0, 1, 4);
-    g->addWidget(unitBox, row++, 0, 1, 4);
+    g->addWidget(sexBox, row++, 0, 1, 3);
+    g->addWidget(unitBox, row++, 0, 1, 3);
     lblHeight = Caption(QStringLiteral("Height - in"), txtHeight);
     lblHeight->setObjectName(QStringLiteral("lblHeight"));
     g->addWidget(lblHeight, row, 0);
@@ -182,14 +184,18 @@ void frmUserInfo::BuildPersonalTab()
     g->addWidget(new QLabel(QStringLiteral("Start Date")), row, 0);
     g->addWidget(lblStartDate, row++, 1, 1, 3);
     g->addWidget(Caption(QStringLiteral("&Purpose"), Combo1), row, 0);
-    g->addWidget(Combo1, row++, 1, 1, 3);
+    g->addWidget(Combo1, row++, 1, 1, 2);
     g->addWidget(Caption(QStringLiteral("C&ondition"), cboFitness), row, 0);
-    g->addWidget(cboFitness, row, 1, 1, 2);
-    g->addWidget(cmdCondition, row++, 3);
+    g->addWidget(cboFitness, row, 1);
+    g->addWidget(cmdCondition, row++, 2, Qt::AlignLeft);
     g->addWidget(Caption(QStringLiteral("Daily Calories (&BMR)"), txtBMR), row, 0);
     g->addWidget(txtBMR, row, 1);
-    g->addWidget(cmdCalc, row++, 2);
-    g->setColumnStretch(3, 1);
+    g->addWidget(cmdCalc, row++, 2, Qt::AlignLeft);
+    g->setColumnStretch(2, 1);
+    g->setColumnStretch(3, 2);
+    txtName->setMaximumWidth(420);
+    Combo1->setMaximumWidth(420);
+    cboFitness->setMinimumWidth(140);
     g->setRowStretch(row, 1);
     tabs->addTab(page, QStringLiteral("Personal"));
 
@@ -209,6 +215,7 @@ void frmUserInfo::BuildWeightTab()
     txtBMI = Edit(QStringLiteral("txtBMI"), 80);
     cmdBMI = Button(QStringLiteral("cmdBMI"), QStringLiteral("C&alc"));
     cboFrame = Combo(QStringLiteral("cboFrame"));
+    cboFrame->setMinimumWidth(100);
     txtIdealWeight = Edit(QStringLiteral("txtIdealWeight"), 80);
     cmdLBM = Button(QStringLiteral("cmdLBM"), QStringLiteral("Ca&lc"));
     txtBodyfat = Edit(QStringLiteral("txtBodyfat"), 80);
@@ -218,6 +225,7 @@ void frmUserInfo::BuildWeightTab()
     lblDifference = Label(QStringLiteral("lblDifference"));
     lblLoss = Label(QStringLiteral("lblLoss"), QStringLiteral("Weight loss per week"));
     cboWeightLoss = Combo(QStringLiteral("cboWeightLoss"));
+    cboWeightLoss->setMinimumWidth(80);
     cboWeightLoss->setToolTip(QStringLiteral(
         "Select your weight loss/gain per week. Authorities recommend losing no more than two pounds per week."));
     lblLoss->setBuddy(cboWeightLoss);
@@ -281,6 +289,7 @@ void frmUserInfo::BuildWeightTab()
                        static_cast<QWidget*>(lblWeekly)})
         sentence->addWidget(w);
     sentence->addStretch();
+    lblEat = qobject_cast<QLabel*>(sentence->itemAt(0)->widget());
     gg->addLayout(sentence, r++, 0, 1, 2);
     gg->setColumnStretch(1, 1);
     g->addWidget(goals, row++, 0, 1, 2);
@@ -366,7 +375,12 @@ void frmUserInfo::BuildNutritionTab()
     SS1->setHorizontalHeaderLabels({QStringLiteral("Nutrient"), QStringLiteral("Daily Goal"), QStringLiteral("RDA")});
     SS1->horizontalHeader()->setSectionResizeMode(0, QHeaderView::Stretch);
     SS1->verticalHeader()->setDefaultSectionSize(22);
-    SS1->setMinimumWidth(330);
+    SS1->setMinimumWidth(360);
+    SS1->horizontalHeader()->setSectionResizeMode(1, QHeaderView::Fixed);
+    SS1->horizontalHeader()->setSectionResizeMode(2, QHeaderView::Fixed);
+    SS1->setColumnWidth(1, 80);
+    SS1->setColumnWidth(2, 64);
+    SS1->verticalHeader()->setVisible(false);
     SSCommand2 = Button(QStringLiteral("SSCommand2"), QStringLiteral("Set Daily &Goals to RDA"));
     SSCommand3 = Button(QStringLiteral("SSCommand3"), QStringLiteral("Calculate Macro-&Nutrients"));
     gv->addWidget(SS1);
@@ -434,6 +448,8 @@ void frmUserInfo::BuildStrengthTab()
     }
     SSCommand1 = Button(QStringLiteral("SSCommand1"), QStringLiteral("&Restore Defaults"));
     bg->addWidget(SSCommand1, 11, 0, 1, 3, Qt::AlignLeft);
+    bg->setRowStretch(12, 1);
+    bg->setColumnStretch(2, 1);
     h->addWidget(burn, 1);
     tabs->addTab(page, QStringLiteral("Strength/Exercise"));
 
@@ -713,8 +729,8 @@ void frmUserInfo::LoadUserRow()
     lblmaintain->setText(t.maintain);
     if (!t.dietSide.isEmpty()) lblDietSide->setText(t.dietSide);
     if (!t.changeOf.isEmpty()) lblChangeOf->setText(t.changeOf);
-    for (QLabel* l : {lblCals, lblDietSide, lblExercise, lblExerciseSide, lblChangeOf, lblWeekly})
-        l->setVisible(weekly > 0);
+    for (QLabel* l : {lblEat, lblCals, lblDietSide, lblExercise, lblExerciseSide, lblChangeOf, lblWeekly})
+        if (l) l->setVisible(weekly > 0);
 }
 
 bool frmUserInfo::MetricUnits() const { return optMetric[0]->isChecked(); }

@@ -82,6 +82,7 @@ public:
     QLabel* lblExerciseSide = nullptr;
     QLabel* lblChangeOf = nullptr;
     QLabel* lblWeekly = nullptr;
+    QLabel* lblEat = nullptr;
 
     // Nutrition
     QComboBox* cboDiet = nullptr;

@@ -67,8 +67,8 @@ void frmUserInfo::CalcLoss()
         lblExercise->setText(NumText(energy::DailyCalories(Val(txtExerciseLoss->text()), perWeek, metric)));
     const double weekly = energy::WeeklyFigure(Val(lblCals->text()), Val(lblExercise->text()));
     lblWeekly->setText(NumText(weekly));
-    for (QLabel* l : {lblCals, lblDietSide, lblExercise, lblExerciseSide, lblChangeOf, lblWeekly})
-        l->setVisible(weekly > 0);
+    for (QLabel* l : {lblEat, lblCals, lblDietSide, lblExercise, lblExerciseSide, lblChangeOf, lblWeekly})
+        if (l) l->setVisible(weekly > 0);
 
     const auto t = energy::MaintainSentence(txtBMR->text(), lblLoss->text(), cboWeightLoss->currentText(),
                                             lblkg[0]->text());

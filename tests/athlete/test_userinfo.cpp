@@ -16,6 +16,7 @@
 #include <QRadioButton>
 #include <QTableWidget>
 #include <QTabWidget>
+#include <QTimer>
 #include <QTreeWidget>
 #include <memory>
 
