@@ -439,9 +439,20 @@ DayView::DayView(QWidget* parent) : QScrollArea(parent)
 
 QWidget* DayView::Canvas() const { return m_canvas; }
 
+void DayView::resizeEvent(QResizeEvent* event)
+{
+    QScrollArea::resizeEvent(event);
+    const int top = MinuteAtY(verticalScrollBar()->value());
+    Relayout();
+    verticalScrollBar()->setValue(YOfMinute(top));
+}
+
 void DayView::Relayout()
 {
-    m_canvas->setMinimumHeight(m_model.RowCount() * m_rowHeight + 1);
+    // Rows grow to fill the view when the day has few of them.
+    const int rows = qMax(1, m_model.RowCount());
+    m_rowHeight = qMax(22, (viewport()->height() - 1) / rows);
+    m_canvas->setMinimumHeight(rows * m_rowHeight + 1);
     m_canvas->update();
 }
 

@@ -135,6 +135,9 @@ signals:
     // A drag over free time (or a click on it) chose a span.
     void FreeTimeSelected(const QDateTime& start, const QDateTime& end);
 
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+
 private:
     friend class DayViewCanvas;
     void Relayout();

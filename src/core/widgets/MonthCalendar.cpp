@@ -18,7 +18,7 @@ MonthCalendarPage::MonthCalendarPage(MonthCalendar* owner, QWidget* parent) : QC
     setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
     setHorizontalHeaderFormat(QCalendarWidget::ShortDayNames);
     setGridVisible(true);
-    setMinimumSize(290, 230);
+    setMinimumSize(300, 250);
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);
     if (auto* view = findChild<QTableView*>(QStringLiteral("qt_calendar_calendarview"))) {
         m_view = view;
@@ -54,12 +54,14 @@ void MonthCalendarPage::paintCell(QPainter* p, const QRect& rect, QDate date) co
     p->drawText(textRect, Qt::AlignRight | Qt::AlignTop, QString::number(date.day()));
     if (inMonth && m_owner->HasPicture(date)) {
         const QPixmap pic = m_owner->Picture(date);
-        const int room = rect.height() - fm.height() - 1;
+        // Beside the day's number when the strip leaves it room, else under it.
+        const int numberWidth = fm.horizontalAdvance(QString::number(date.day())) + 6;
+        const int room = pic.width() <= rect.width() - numberWidth ? rect.height() - 4 : rect.height() - fm.height() - 1;
         const int h = qMin(pic.height(), qMax(8, room));
         const QRect clip = rect.adjusted(2, 0, -1, -1);
         p->setClipRect(clip);
         const QPixmap drawn = h == pic.height() ? pic : pic.scaledToHeight(h, Qt::SmoothTransformation);
-        p->drawPixmap(clip.left(), rect.bottom() - h, drawn);
+        p->drawPixmap(clip.left(), rect.bottom() - 1 - h, drawn);
     }
     p->restore();
 }
