@@ -1,5 +1,6 @@
 #include "nutrition/screens.h"
 #include "core/ui.h"
+#include "nutrition/dailyscreens.h"
 #include "nutrition/frmFoodCategories.h"
 #include "nutrition/frmFoods.h"
 #include "nutrition/frmMoveFood.h"
@@ -11,4 +12,5 @@ void RegisterNutritionScreens()
     ui::RegisterScreen(QStringLiteral("frmFoodCategories"), [](QWidget* p) { return new frmFoodCategories(p); });
     ui::RegisterScreen(QStringLiteral("frmMoveFood"), [](QWidget* p) { return new frmMoveFood(p); });
     ui::RegisterScreen(QStringLiteral("frmNutSearch"), [](QWidget* p) { return new frmNutSearch(p); });
+    RegisterDailyNutritionScreens();
 }
