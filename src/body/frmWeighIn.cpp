@@ -90,9 +90,9 @@ frmWeighIn::frmWeighIn(QWidget* parent) : QDialog(parent)
 
     QMetaObject::connectSlotsByName(this);
     for (auto* e : txtData)
-        connect(e, &QLineEdit::textEdited, this, [this] { fieldChanged(); });
+        connect(e, &QLineEdit::textChanged, this, [this] { fieldChanged(); });
     for (auto* e : txtGoal)
-        connect(e, &QLineEdit::textEdited, this, [this] { fieldChanged(); });
+        connect(e, &QLineEdit::textChanged, this, [this] { fieldChanged(); });
     for (auto* e : {txtHeight, txtBMR, txtBMI, txtVo2, txtBFMeasure, txtPhoto})
         connect(e, &QLineEdit::textChanged, this, [this] { fieldChanged(); });
     connect(cboCondition, &QComboBox::currentIndexChanged, this, [this] { fieldChanged(); });
@@ -634,7 +634,7 @@ void frmWeighIn::on_cmdPreviewExercise_clicked()
 
 void frmWeighIn::on_FB1_clicked() { ShowModal(QStringLiteral("Calculator")); }
 
-void frmWeighIn::on_cmdClose_clicked() { close(); }
+void frmWeighIn::on_cmdClose_clicked() { reject(); }
 
 void frmWeighIn::on_Command1_clicked()
 {

@@ -29,7 +29,7 @@ Meter CalorieMeter(double calories, double goal)
     } else if (percent > 100 && percent < 110) {
         m.color = QColor(255, 255, 0);
         m.value = 100;
-    } else if (percent > 110) {
+    } else if (100.0 * calories / goal > 110) {
         m.color = QColor(255, 0, 0);
         m.value = 100;
     }

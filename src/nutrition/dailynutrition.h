@@ -27,8 +27,9 @@ struct Meter {
     bool set = false;      // false: the goal or the calories were not above 0, nothing was set
 };
 // calories eaten against the goal (the newest weigh-in's BMR, rounded). Within the goal:
-// green at the percent. Over by 101..109 percent: yellow at 100; above 110: red at 100;
-// exactly 110 (or an excess that rounds to 100) leaves green at 0.
+// green at the percent. Over, with the whole percent 101..109: yellow at 100; over with the
+// exact ratio above 110 percent: red at 100. A whole percent of exactly 110 from a ratio of
+// at most 110 (2,200 of 2,000), or an excess that rounds to 100, leaves green at 0.
 Meter CalorieMeter(double calories, double goal);
 // 100 * calories / goal as the 16-bit integer the meter takes (halves to even, clamped).
 int MeterPercent(double calories, double goal);

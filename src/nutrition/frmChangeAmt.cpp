@@ -104,6 +104,9 @@ void frmChangeAmt::FillUnits(const QString& measure)
 QString frmChangeAmt::ChangeAmount(double newAmount, const QString& newMeasure, double oldAmount,
                                    const QString& oldMeasure)
 {
+    // The unit factors first: GetConversion has a recordset and SqlText of its own.
+    const double newSize = newAmount * GetConversion(newMeasure);
+    const double oldConversion = GetConversion(oldMeasure);
     if (MealID == QLatin1String("0"))
         SqlText = QStringLiteral("select * from daily_nutrition where User_ID='") + CurrentUserID +
                   QStringLiteral("' and meal_id=9999 and type='") + SqlQuote(MealType) + QStringLiteral("' and food_id=") +
@@ -112,10 +115,6 @@ QString frmChangeAmt::ChangeAmount(double newAmount, const QString& newMeasure, 
         SqlText = QStringLiteral("select * from daily_nutrition where User_ID='") + CurrentUserID +
                   QStringLiteral("' and meal_id=") + MealID + QStringLiteral(" and User_ID = '") + CurrentUserID +
                   QStringLiteral("' and date = #") + MealDate + QStringLiteral("# and food_id=") + FoodID;
-    // The unit factors first: GetConversion has a recordset of its own, and no dialog or
-    // other statement runs while the row below is open.
-    const double newSize = newAmount * GetConversion(newMeasure);
-    const double oldConversion = GetConversion(oldMeasure);
     UserRS2.Open(SqlText);
     if (UserRS2.Eof()) {
         UserRS2.Close();

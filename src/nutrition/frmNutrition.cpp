@@ -566,7 +566,6 @@ void frmNutrition::updateButtons()
     cmdChange->setEnabled(!totals && selected);
     cmdClear->setEnabled(!totals && selected);
     cmdSaveMeal->setEnabled(!totals && List2->topLevelItemCount() > 0);
-    cmdAdd->setEnabled(!totals);
 }
 
 void frmNutrition::SetDate(const QDate& date) { cboDate->setDate(date); }
@@ -777,7 +776,10 @@ void frmNutrition::on_cmdChange_clicked()
     frmChangeAmt::MealType.clear();
     frmChangeAmt::MealDate = GetLocalDate();
     frmChangeAmt::NewLine.clear();
-    ShowModal(new frmChangeAmt(this));
+    {
+        frmChangeAmt dialog(this);
+        ShowModal(&dialog);
+    }
     const QString line = frmChangeAmt::NewLine;
     if (line.isEmpty()) {
         Guard([this] { TotalNutrients(); });
