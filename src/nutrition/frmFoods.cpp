@@ -122,8 +122,9 @@ void frmFoods::buildUi()
     lstFoods->setRootIsDecorated(false);
     lstFoods->setUniformRowHeights(true);
     lstFoods->setAlternatingRowColors(true);
-    lstFoods->setColumnWidth(colFood, 300);
+    lstFoods->setColumnWidth(colFood, 280);
     lstFoods->setColumnWidth(colAmount, 90);
+    lstFoods->setColumnWidth(colGroup, 160);
     lstFoods->setAccessibleName(QStringLiteral("Foods"));
     lv->addWidget(lstFoods, 1);
 
@@ -188,6 +189,7 @@ void frmFoods::buildUi()
     split->addWidget(right);
     split->setStretchFactor(0, 2);
     split->setStretchFactor(1, 3);
+    split->setSizes({440, 680});
 
     // Commands.
     auto* buttons = new QHBoxLayout;
@@ -285,6 +287,7 @@ void frmFoods::FormatGrid()
     SS1->setColumnWidth(gcAmount - 1, 80);
     SS1->setColumnWidth(gcPercent - 1, 100);
     SS1->setColumnWidth(gcRDA - 1, 90);
+    SS1->horizontalHeader()->setStretchLastSection(true);
 }
 
 void frmFoods::FillUnits(const QString& measure)

@@ -3,6 +3,9 @@
 // the categories dialog.
 #include <gtest/gtest.h>
 #include <QComboBox>
+#include <QCoreApplication>
+#include <QDir>
+#include <QImage>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
@@ -408,4 +411,19 @@ TEST_F(FoodsTest, CategoriesAndTheSearchQuestion)
     EXPECT_EQ(q.cmdSearch->text().remove('&'), "Search all Categories");
     q.cmdSearch->click();
     EXPECT_EQ(q.result(), frmNutSearch::SearchAll);
+}
+
+TEST_F(FoodsTest, ScreenDrawsWithAFoodShown)
+{
+    frmFoods::FoodName = "Bananas, raw";
+    frmFoods f;
+    EXPECT_TRUE(frmFoods::FoodName.isEmpty());
+    EXPECT_EQ(f.txtFood->text(), "Bananas, raw");          // the food handed in is shown
+    f.resize(1200, 760);
+    f.show();
+    QCoreApplication::processEvents();
+    const QImage shot = f.grab().toImage();
+    EXPECT_EQ(shot.width(), 1200);
+    // A picture of the view for a person to look at.
+    shot.save(QDir::temp().filePath("orvantis-foods.png"));
 }

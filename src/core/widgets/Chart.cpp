@@ -375,7 +375,8 @@ void Chart::rebuild()
             QPieSlice* sl = pie->append(m_pieNames[i], v);
             if (total > 0 && v > 0) {
                 sl->setLabel(QStringLiteral("%1 %2%").arg(m_pieNames[i]).arg(qRound(100.0 * v / total)));
-                sl->setLabelVisible(true);
+                // Small slices are told by the legend alone, so that labels don't overlap.
+                sl->setLabelVisible(v / total >= 0.08);
             }
         }
         c->addSeries(pie);
