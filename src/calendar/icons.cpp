@@ -1,4 +1,5 @@
 #include "calendar/icons.h"
+#include "core/frmMain.h"   // WinColor
 #include "core/shared.h"
 
 #include <QApplication>
@@ -6,15 +7,6 @@
 #include <QPainter>
 #include <QPainterPath>
 #include <QPalette>
-
-QColor WinColor(long value)
-{
-    if (value & 0x80000000L) {
-        // A system colour: the desktop's own, which the palette stands for here.
-        return QApplication::palette().color(QPalette::Highlight).darker(140);
-    }
-    return QColor(int(value & 0xFF), int((value >> 8) & 0xFF), int((value >> 16) & 0xFF));
-}
 
 QColor AppQColor() { return WinColor(AppColor ? AppColor : DefaultAppColor); }
 

@@ -8,8 +8,7 @@
 
 constexpr int CalendarIconSize = 18;
 
-// AppColor (a Windows colour, 0x00BBGGRR; a system colour has the high bit) as a colour.
-QColor WinColor(long value);
+// AppColor (a Windows colour, 0x00BBGGRR, or a system colour) as a colour.
 QColor AppQColor();
 
 // The exercise icon numbered `image` (above 0).
