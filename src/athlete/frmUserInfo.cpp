@@ -417,6 +417,7 @@ void frmUserInfo::BuildStrengthTab()
         ul->addWidget(r);
         optWorkoutIn << r;
     }
+    ul->addStretch();
     left->addWidget(unitBox);
     cboStrength = Combo(QStringLiteral("cboStrength"));
     auto* sl = new QHBoxLayout;
@@ -726,7 +727,8 @@ void frmUserInfo::LoadUserRow()
     lblWeekly->setText(NumText(weekly));
     const auto t = energy::MaintainSentence(txtBMR->text(), lblLoss->text(), cboWeightLoss->currentText(),
                                             MetricUnits() ? QStringLiteral("kg") : QStringLiteral("lbs"));
-    lblmaintain->setText(t.maintain);
+    // Without a BMR yet there is nothing to say.
+    lblmaintain->setText(txtBMR->text().isEmpty() ? QString() : t.maintain);
     if (!t.dietSide.isEmpty()) lblDietSide->setText(t.dietSide);
     if (!t.changeOf.isEmpty()) lblChangeOf->setText(t.changeOf);
     for (QLabel* l : {lblEat, lblCals, lblDietSide, lblExercise, lblExerciseSide, lblChangeOf, lblWeekly})

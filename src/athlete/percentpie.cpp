@@ -11,7 +11,7 @@ PercentPie::PercentPie(QWidget* parent) : QWidget(parent)
     m_series = new QPieSeries;
     m_chart = new QChart;
     m_chart->addSeries(m_series);
-    m_chart->legend()->setAlignment(Qt::AlignRight);
+    m_chart->legend()->setAlignment(Qt::AlignBottom);
     m_chart->setMargins(QMargins(2, 2, 2, 2));
     m_chart->setBackgroundRoundness(0);
     m_view = new QChartView(m_chart, this);
@@ -19,7 +19,7 @@ PercentPie::PercentPie(QWidget* parent) : QWidget(parent)
     auto* lay = new QVBoxLayout(this);
     lay->setContentsMargins(0, 0, 0, 0);
     lay->addWidget(m_view);
-    setMinimumSize(240, 180);
+    setMinimumSize(240, 200);
     SetValues(0, 0, 0);
 }
 
@@ -36,7 +36,7 @@ void PercentPie::SetValues(double carbs, double protein, double fat)
         auto* slice = m_series->append(QString::fromLatin1(s.name), qMax(0.0, s.value));
         slice->setColor(s.color);
         slice->setLabel(QStringLiteral("%1 %2%").arg(QString::fromLatin1(s.name)).arg(s.value));
-        slice->setLabelVisible(s.value > 0);
+        slice->setLabelVisible(false);   // the legend carries the names and figures
     }
 }
 
