@@ -196,7 +196,7 @@ std::shared_ptr<const Translation> ConnectionImpl::Translate(const QString& dial
     return t;
 }
 
-CachedStatement& ConnectionImpl::Prepare(const QString& sqliteSql)
+CachedStatement& ConnectionImpl::Prepare(const QString& sqliteSql, const QString& messageSql)
 {
     RequireOpen();
     if (CachedStatement* hit = m_statements.Find(sqliteSql)) {
@@ -210,7 +210,7 @@ CachedStatement& ConnectionImpl::Prepare(const QString& sqliteSql)
     const int rc = sqlite3_prepare_v3(db, utf8.constData(), int(utf8.size()), SQLITE_PREPARE_PERSISTENT, &stmt, &tail);
     if (rc != SQLITE_OK) {
         sqlite3_finalize(stmt);
-        Throw(rc, sqliteSql);
+        Throw(rc, messageSql.isEmpty() ? sqliteSql : messageSql);
     }
     if (!stmt) throw StoreError(StoreError::SyntaxError, QStringLiteral("Invalid SQL statement; expected 'DELETE', "
                                                                        "'INSERT', 'PROCEDURE', 'SELECT', or 'UPDATE'."));
@@ -328,7 +328,7 @@ long ConnectionImpl::Execute(const QString& dialectSql)
     case K::Insert:
     case K::Update:
     case K::Delete: {
-        CachedStatement& s = Prepare(t->sql);
+        CachedStatement& s = Prepare(t->sql, dialectSql);
         RunToEnd(s.stmt, dialectSql);
         return t->kind == K::Select ? 0 : long(sqlite3_changes(db));
     }

@@ -3,6 +3,7 @@
 // translations and prepared statements, what is known of each table, and the mapping of
 // SQLite's failures onto the store's errors.
 #include <QHash>
+#include <algorithm>
 #include <QString>
 #include <QStringList>
 #include <functional>
@@ -74,15 +75,31 @@ struct RecordLayout {
     std::vector<Column> columns;    // without the hidden rowid
     bool hasRowId = false;          // column 0 of the statement is the rowid
     QHash<QString, int> byName;     // lower-case names -> position
-    mutable QHash<QString, int> bySpelling;   // names as asked for, found before
+
+    // Screens ask for the same fields row after row, mostly with literal names: a name whose
+    // text sits where it sat before is found without hashing (its text is still compared).
+    struct Recent {
+        const QChar* data = nullptr;
+        QString spelling;
+        int position = -1;
+    };
+    mutable Recent recent[16];
+    mutable unsigned next = 0;
 
     int Find(const QString& name) const
     {
-        auto it = bySpelling.constFind(name);
-        if (it != bySpelling.constEnd()) return *it;
+        const QChar* data = name.constData();
+        for (const Recent& r : recent)
+            if (r.data == data && r.spelling.size() == name.size()
+                && std::equal(data, data + name.size(), r.spelling.constData()))
+                return r.position;
         auto low = byName.constFind(name.toLower());
         if (low == byName.constEnd()) return -1;
-        bySpelling.insert(name, *low);
+        Recent& r = recent[next++ % 16];
+        r.data = data;
+        r.spelling = name;
+        r.spelling.detach();
+        r.position = *low;
         return *low;
     }
 };
@@ -91,6 +108,7 @@ struct CachedStatement {
     sqlite3_stmt* stmt = nullptr;
     std::shared_ptr<const RecordLayout> layout;
     quint64 generation = 0;         // the schema generation the layout belongs to
+    qsizetype lastRows = 0;         // rows it gave last time, to make room for as many
 };
 
 // What the store knows of a table's columns.
@@ -128,7 +146,8 @@ public:
     std::shared_ptr<const Translation> Translate(const QString& dialectSql);
     // A prepared statement for SQLite text, cached and reset. It stays valid until the next
     // call of Prepare.
-    CachedStatement& Prepare(const QString& sqliteSql);
+    // Failures name messageSql (the statement as the screen wrote it) when it is given.
+    CachedStatement& Prepare(const QString& sqliteSql, const QString& messageSql = QString());
     // Runs a statement on its own (prepared, run and finalized); for DDL and pragmas.
     void Exec(const QString& sqliteSql);
     // Steps a prepared statement to its end; throws the store's error on failure.

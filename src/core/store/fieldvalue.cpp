@@ -99,6 +99,12 @@ Kind KindOf(const char* decl)
 
 QVariant Read(sqlite3_stmt* st, int i, Kind kind)
 {
+    if (kind == Kind::Text) {
+        // Text needs no look at the storage class: a Null gives no text at all.
+        const char* s = reinterpret_cast<const char*>(sqlite3_column_text(st, i));
+        if (!s) return QVariant();
+        return QVariant(QString::fromUtf8(s, sqlite3_column_bytes(st, i)));
+    }
     const int type = sqlite3_column_type(st, i);
     if (type == SQLITE_NULL) return QVariant();
     switch (kind) {

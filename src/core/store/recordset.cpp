@@ -94,6 +94,7 @@ public:
     bool pending = false;   // a bare table whose rows are not read yet; rows holds only those added here
     bool updatable = false;
     std::shared_ptr<const Translation> tr;
+    QString source;         // the statement as the screen wrote it
     QString readSql;
     std::shared_ptr<const RecordLayout> layout;
     int ncols = 0;
@@ -125,6 +126,7 @@ public:
     {
         open = pending = updatable = false;
         tr.reset();
+        source.clear();
         readSql.clear();
         layout.reset();
         ncols = 0;
@@ -141,7 +143,7 @@ public:
 
     CachedStatement& Statement(ConnectionImpl* ci)
     {
-        CachedStatement& cs = ci->Prepare(readSql);
+        CachedStatement& cs = ci->Prepare(readSql, source);
         if (!cs.layout || cs.generation != ci->schemaGeneration) {
             cs.layout = BuildLayout(cs.stmt, *tr, updatable);
             cs.generation = ci->schemaGeneration;
@@ -156,10 +158,12 @@ public:
     {
         ConnectionImpl* ci = Conn();
         const qint64 keep = pending && pos >= 0 && pos < rows ? rowids[size_t(pos)] : -1;
-        sqlite3_stmt* st = Statement(ci).stmt;
+        CachedStatement& cs = Statement(ci);
+        sqlite3_stmt* st = cs.stmt;
         values.clear();
         rowids.clear();
         deleted.clear();
+        values.reserve(size_t(cs.lastRows) * size_t(ncols));
         const bool hasRowId = layout->hasRowId;
         const int off = hasRowId ? 1 : 0;
         std::vector<fieldvalue::Kind> kinds;
@@ -173,12 +177,13 @@ public:
             ++n;
         }
         if (rc != SQLITE_DONE) {
-            const StoreError e = SqliteFailure(ci->db, rc, tr->sql);
+            const StoreError e = SqliteFailure(ci->db, rc, source);
             sqlite3_reset(st);
             Reset();
             throw e;
         }
         sqlite3_reset(st);
+        cs.lastRows = n;
         rows = n;
         live = long(n);
         deleted.assign(size_t(n), 0);
@@ -398,6 +403,7 @@ void Recordset::Open(const QString& source)
     }
     d->Reset();
     d->tr = tr;
+    d->source = source;
     d->updatable = tr->updatable;
     d->readSql = tr->updatable ? tr->sqlWithRowId : tr->sql;
     try {

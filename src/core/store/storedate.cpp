@@ -165,7 +165,8 @@ bool Parse(QStringView text, QDate& date, QTime& time, bool& hasTime)
         QChar after = t.i + 1 < text.size() ? text[t.i + 1].toUpper() : QChar();
         bool meridian = (next == u'A' || next == u'P') && (after == u'M' || !after.isLetter());
         if (t.i > 0 && (next == u':' || meridian)) {
-            if (!ReadTime(t, time)) return false;
+            Cursor whole{text};
+            if (!ReadTime(whole, time)) return false;
             date = BaseDay();
             hasTime = true;
             return true;
