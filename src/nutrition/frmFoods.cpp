@@ -122,9 +122,9 @@ void frmFoods::buildUi()
     lstFoods->setRootIsDecorated(false);
     lstFoods->setUniformRowHeights(true);
     lstFoods->setAlternatingRowColors(true);
-    lstFoods->setColumnWidth(colFood, 280);
-    lstFoods->setColumnWidth(colAmount, 90);
-    lstFoods->setColumnWidth(colGroup, 160);
+    lstFoods->setColumnWidth(colFood, 230);
+    lstFoods->setColumnWidth(colAmount, 80);
+    lstFoods->setColumnWidth(colGroup, 150);
     lstFoods->setAccessibleName(QStringLiteral("Foods"));
     lv->addWidget(lstFoods, 1);
 
@@ -181,7 +181,7 @@ void frmFoods::buildUi()
     Chart1->setObjectName(QStringLiteral("Chart1"));
     Chart1->SetTitle(QStringLiteral("Percent of Total Calories"));
     Chart1->SetPieSlices({QStringLiteral("Carbs"), QStringLiteral("Fat"), QStringLiteral("Protein")});
-    Chart1->setMinimumWidth(260);
+    Chart1->setMinimumWidth(240);
     lower->addWidget(Chart1, 2);
     rv->addLayout(lower, 1);
 
@@ -189,7 +189,7 @@ void frmFoods::buildUi()
     split->addWidget(right);
     split->setStretchFactor(0, 2);
     split->setStretchFactor(1, 3);
-    split->setSizes({440, 680});
+    split->setSizes({380, 740});
 
     // Commands.
     auto* buttons = new QHBoxLayout;

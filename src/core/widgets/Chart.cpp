@@ -1,5 +1,6 @@
 #include "core/widgets/Chart.h"
 
+#include <QCursor>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPrinter>
@@ -12,6 +13,7 @@
 #include <QtCharts/QBarSet>
 #include <QtCharts/QChart>
 #include <QtCharts/QChartView>
+#include <QtCharts/QLegendMarker>
 #include <QtCharts/QLineSeries>
 #include <QtCharts/QPieSeries>
 #include <QtCharts/QPieSlice>
@@ -374,12 +376,24 @@ void Chart::rebuild()
             const double v = std::max(0.0, m_pieValues.value(i));
             QPieSlice* sl = pie->append(m_pieNames[i], v);
             if (total > 0 && v > 0) {
-                sl->setLabel(QStringLiteral("%1 %2%").arg(m_pieNames[i]).arg(qRound(100.0 * v / total)));
-                // Small slices are told by the legend alone, so that labels don't overlap.
+                const QString share = QStringLiteral("%1 %2%").arg(m_pieNames[i]).arg(qRound(100.0 * v / total));
+                sl->setLabel(share);
+                // Small slices are told by their tooltip, so that labels don't overlap.
                 sl->setLabelVisible(v / total >= 0.08);
+                connect(sl, &QPieSlice::hovered, m_view, [share](bool on) {
+                    if (on)
+                        QToolTip::showText(QCursor::pos(), share);
+                    else
+                        QToolTip::hideText();
+                });
             }
         }
         c->addSeries(pie);
+        c->legend()->setAlignment(Qt::AlignBottom);
+        // The legend names the parts; the shares stand on the slices.
+        const auto markers = c->legend()->markers(pie);
+        for (int i = 0; i < markers.size() && i < m_pieNames.size(); ++i)
+            markers[i]->setLabel(m_pieNames[i]);
         updateScrollBar();
         return;
     }
@@ -405,6 +419,7 @@ void Chart::rebuild()
         axY->applyNiceNumbers();
     c->addAxis(axX, Qt::AlignBottom);
     c->addAxis(axY, Qt::AlignLeft);
+    c->legend()->setAlignment(Qt::AlignTop);
 
     if (m_style == Bar) {
         auto* bars = new QBarSeries;
