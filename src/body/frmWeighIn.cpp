@@ -6,6 +6,8 @@
 #include "core/ui.h"
 #include "core/widgets/Chart.h"
 
+#include <QtCharts/QAbstractAxis>
+#include <QtCharts/QChart>
 #include <QComboBox>
 #include <QDateEdit>
 #include <QDialogButtonBox>
@@ -96,6 +98,14 @@ frmWeighIn::frmWeighIn(QWidget* parent) : QDialog(parent)
     for (auto* e : {txtHeight, txtBMR, txtBMI, txtVo2, txtBFMeasure, txtPhoto})
         connect(e, &QLineEdit::textChanged, this, [this] { fieldChanged(); });
     connect(cboCondition, &QComboBox::currentIndexChanged, this, [this] { fieldChanged(); });
+    // The history draws itself when shown and when its range changes.
+    connect(Tab1, &QTabWidget::currentChanged, this, [this](int index) {
+        if (!m_loading && index == 2) Guard([this] { Graph(); });
+    });
+    for (auto* d : {txtStartDate, txtEndDate})
+        connect(d, &QDateEdit::dateChanged, this, [this] {
+            if (!m_loading && Tab1->currentIndex() == 2) Guard([this] { Graph(); });
+        });
 
     Guard([this] {
         loadProfile();
@@ -176,6 +186,7 @@ QWidget* frmWeighIn::buildWeighInTab()
         m_lengthLabels[i] = new QLabel(fraMeasurements);
         mg->addWidget(m_lengthLabels[i], i + 1, 3);
     }
+    mg->setRowStretch(15, 1);
 
     // Body figures.
     auto* fraBody = new QGroupBox(QStringLiteral("Conditioning"), page);
@@ -721,18 +732,28 @@ void frmWeighIn::Graph()
     else
         SqlText = QStringLiteral("select date,") + column + QStringLiteral(" ") + range;
 
-    Chart1->Clear();
-    Chart1->SetStyle(Chart::Line);
-    Chart1->SetSeriesNames({item});
-    Chart1->SetTitle(item + QStringLiteral(" - ") + regional::ShortDate(from) + QStringLiteral(" - ") +
-                     regional::ShortDate(to));
+    QStringList labels;
+    QVector<double> values;
     UserRS.Open(SqlText);
     while (!UserRS.Eof()) {
-        const QDate d = DateOf(UserRS.Field(0));
-        Chart1->AddPoint(regional::ShortDate(d), {Val(UserRS.Field(1))});
+        labels << regional::ShortDate(DateOf(UserRS.Field(0)));
+        values << Val(UserRS.Field(1));
         UserRS.MoveNext();
     }
     UserRS.Close();
+    // Qt Charts 6.4 keeps drawing an axis that had no series once it is removed, unless it
+    // was hidden first; the chart replaces its axes on every change.
+    auto hideAxes = [this] {
+        for (QAbstractAxis* axis : Chart1->GetChart()->axes())
+            axis->setVisible(false);
+    };
+    hideAxes();
+    Chart1->SetTitle(item + QStringLiteral(" - ") + regional::ShortDate(from) + QStringLiteral(" - ") +
+                     regional::ShortDate(to));
+    hideAxes();
+    Chart1->SetSeriesNames({item});
+    hideAxes();
+    Chart1->SetData(labels, {values});
 }
 
 void frmWeighIn::SetTargetCalories()

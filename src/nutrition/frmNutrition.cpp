@@ -256,8 +256,8 @@ void frmNutrition::buildUi()
     charts->addLayout(pies, 1);
 
     auto* bottom = new QHBoxLayout;
-    bottom->addWidget(SS1, 1);
-    bottom->addLayout(charts, 1);
+    bottom->addWidget(SS1, 5);
+    bottom->addLayout(charts, 4);
 
     auto* closeRow = new QHBoxLayout;
     closeRow->addStretch(1);
@@ -396,9 +396,10 @@ void frmNutrition::FormatGrid()
     }
     for (int c = 1; c <= 6; ++c)
         SS1->SetColumnLocked(c, true);
-    SS1->SetColumnWidthChars(colNutrient, 26);
-    for (int c = colAmount; c <= colRdaText; ++c)
-        SS1->SetColumnWidthChars(c, 10);
+    SS1->SetColumnWidthChars(colNutrient, 22);
+    for (int c = colAmount; c <= colPercent; ++c)
+        SS1->SetColumnWidthChars(c, 8);
+    SS1->SetColumnWidthChars(colRdaText, 10);
 
     SqlText = QStringLiteral("select * from Nutrient_Goals where User_ID='") + CurrentUserID + QStringLiteral("'");
     UserRS.Open(SqlText);
