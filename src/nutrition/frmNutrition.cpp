@@ -61,6 +61,8 @@ frmNutrition::frmNutrition(QWidget* parent) : QDialog(parent)
         if (chosen || wanted.isEmpty())
             continue;
         chosen = SelectMeal(wanted);
+        if (chosen && wanted == SelectedItem)
+            SelectedItem.clear();   // taken: the next opening starts from the first meal
         for (int i = 0; !chosen && i < Tab1->count() - 1; ++i)
             if (Tab1->tabData(i).toString() == wanted.trimmed()) {
                 Tab1->setCurrentIndex(i);
