@@ -1,5 +1,6 @@
 #include "core/widgets/DayView.h"
 
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPainterPath>
@@ -145,7 +146,10 @@ QPair<int, int> DayViewModel::MovedSpan(int id, int newStartMinute) const
     if (!e) return {-1, -1};
     const int s = MinuteOf(e->start, e->start.date());
     const int d = MinuteOf(e->end, e->start.date()) - s;
-    int ns = Snap(qMax(0, newStartMinute));
+    // The entry moves by whole rows, so that one at half past stays at half past.
+    const int delta = newStartMinute - s;
+    const int rows = delta >= 0 ? (delta + m_scale / 2) / m_scale : -((-delta + m_scale / 2) / m_scale);
+    int ns = s + rows * m_scale;
     ns = qBound(m_dayStart, ns, qMax(m_dayStart, m_dayEnd - d));
     return {ns, ns + d};
 }
@@ -434,6 +438,8 @@ DayView::DayView(QWidget* parent) : QScrollArea(parent)
     setWidgetResizable(true);
     setFocusPolicy(Qt::StrongFocus);
     setMinimumWidth(220);
+    setAccessibleName(QStringLiteral("Day view"));
+    setAccessibleDescription(QStringLiteral("The day's timed entries; up and down select, Enter opens"));
     Relayout();
 }
 
@@ -518,6 +524,29 @@ bool DayView::RemoveEntry(int id)
     if (m_selected == id) m_selected = 0;
     m_canvas->update();
     return true;
+}
+
+void DayView::keyPressEvent(QKeyEvent* event)
+{
+    const auto entries = m_model.DayEntries();
+    int index = -1;
+    for (int i = 0; i < entries.size(); ++i)
+        if (entries[i]->id == m_selected) index = i;
+    if ((event->key() == Qt::Key_Down || event->key() == Qt::Key_Up) && !entries.isEmpty()) {
+        // Up and down walk the day's entries.
+        if (event->key() == Qt::Key_Down) index = index < 0 ? 0 : qMin(index + 1, int(entries.size()) - 1);
+        else index = index < 0 ? int(entries.size()) - 1 : qMax(index - 1, 0);
+        const int id = entries[index]->id;
+        SelectEntry(id);
+        ensureVisible(0, YOfMinute(DayViewModel::MinuteOf(entries[index]->start, m_model.Date())), 0, 3 * m_rowHeight);
+        emit EntrySelected(id);
+        return;
+    }
+    if ((event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) && index >= 0) {
+        emit EntryDoubleClicked(m_selected);
+        return;
+    }
+    QScrollArea::keyPressEvent(event);
 }
 
 void DayView::SelectEntry(int id)

@@ -70,7 +70,13 @@ TEST(DayViewModel, MovingResizingAndDraggingOverFreeTime)
     EXPECT_EQ(m.MovedSpan(id, -50), qMakePair(0, 75));
     EXPECT_EQ(m.MovedSpan(id, Minutes(23, 50)), qMakePair(24 * 60 - 75, 24 * 60));   // clamped into the day
     m.SetScale(15);
-    EXPECT_EQ(m.MovedSpan(id, Minutes(13, 40)), qMakePair(Minutes(13, 30), Minutes(14, 45)));
+    EXPECT_EQ(m.MovedSpan(id, Minutes(13, 40)), qMakePair(Minutes(13, 45), Minutes(15, 0)));
+    // By whole rows: an entry at a quarter past stays at a quarter past on the hourly scale.
+    const int quarter = m.Add(At(6, 15), At(7, 0), "Quarter", "", Qt::blue);
+    m.SetScale(60);
+    EXPECT_EQ(m.MovedSpan(quarter, Minutes(8, 5)), qMakePair(Minutes(8, 15), Minutes(9, 0)));
+    m.Remove(quarter);
+    m.SetScale(15);
     EXPECT_EQ(m.MovedSpan(999, 0), qMakePair(-1, -1));
 
     EXPECT_EQ(m.ResizedSpan(id, Minutes(11, 8)), qMakePair(Minutes(9, 0), Minutes(11, 15)));
@@ -157,4 +163,16 @@ TEST(DayViewWidget, MouseMovesResizesAndSelectsFreeTime)
     QTest::mouseDClick(canvas, Qt::LeftButton, {}, QPoint(x, y(200)));
     ASSERT_EQ(dbl.size(), 1);
     EXPECT_EQ(dbl.first().first().toInt(), id);
+
+    // The keyboard alone: down and up walk the entries, Enter opens the selected one.
+    const int second = view.AddEntry(At(7, 0), At(8, 0), "Bike", "Exercise\t2", Qt::darkGreen);
+    view.SelectEntry(0);
+    QTest::keyClick(&view, Qt::Key_Down);
+    EXPECT_EQ(view.SelectedId(), id);
+    QTest::keyClick(&view, Qt::Key_Down);
+    EXPECT_EQ(view.SelectedId(), second);
+    QTest::keyClick(&view, Qt::Key_Up);
+    EXPECT_EQ(view.SelectedId(), id);
+    QTest::keyClick(&view, Qt::Key_Return);
+    EXPECT_EQ(dbl.size(), 2);
 }
