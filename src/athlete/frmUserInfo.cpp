@@ -77,6 +77,12 @@ QVariant Col(const Recordset& rs, const QString& name)
     return rs.HasField(name) ? rs.Field(name) : QVariant();
 }
 
+// A number typed into a field, or Null for a field left empty.
+QVariant NumOrNull(const QString& text)
+{
+    return text.trimmed().isEmpty() ? QVariant() : QVariant(Val(text));
+}
+
 void SetIfPresent(QLineEdit* e, const QVariant& v)
 {
     if (!IsNull(v)) e->setText(Str(v));
@@ -339,6 +345,7 @@ void frmUserInfo::BuildNutritionTab()
     auto* mg = new QGridLayout(mealBox);
     lstMeals = new QTreeWidget;
     lstMeals->setObjectName(QStringLiteral("lstMeals"));
+    lstMeals->setAccessibleName(QStringLiteral("Meals"));
     lstMeals->setHeaderLabels({QStringLiteral("Meal"), QStringLiteral("Time"), QStringLiteral("Show")});
     lstMeals->setRootIsDecorated(false);
     lstMeals->setMinimumHeight(120);
@@ -372,6 +379,7 @@ void frmUserInfo::BuildNutritionTab()
     auto* gv = new QVBoxLayout(goalBox);
     SS1 = new QTableWidget(0, 3);
     SS1->setObjectName(QStringLiteral("SS1"));
+    SS1->setAccessibleName(QStringLiteral("Nutrient Goals"));
     SS1->setHorizontalHeaderLabels({QStringLiteral("Nutrient"), QStringLiteral("Daily Goal"), QStringLiteral("RDA")});
     SS1->horizontalHeader()->setSectionResizeMode(0, QHeaderView::Stretch);
     SS1->verticalHeader()->setDefaultSectionSize(22);
@@ -443,6 +451,7 @@ void frmUserInfo::BuildStrengthTab()
     for (int i = 0; i < 10; ++i) {
         auto* e = Edit(QStringLiteral("txtInt(%1)").arg(i), 70);
         txtInt << e;
+        e->setAccessibleName(QStringLiteral("Intensity %1 rate").arg(i + 1));
         bg->addWidget(Caption(QString::number(i + 1), e), i + 1, 0);
         bg->addWidget(e, i + 1, 1);
         bg->addWidget(new QLabel(examples.value(i)), i + 1, 2);
@@ -484,6 +493,8 @@ void frmUserInfo::BuildHeartRateTab()
         auto* lo = Edit(QStringLiteral("txtZ1(%1)").arg(2 * z), 60);
         auto* up = Edit(QStringLiteral("txtZ1(%1)").arg(2 * z + 1), 60);
         txtZ1 << lo << up;
+        lo->setAccessibleName(QStringLiteral("Zone %1 lower").arg(z + 1));
+        up->setAccessibleName(QStringLiteral("Zone %1 upper").arg(z + 1));
         auto* cap = Label(QStringLiteral("lblZone(%1)").arg(z), captions[z]);
         lblZone << cap;
         zg->addWidget(Caption(QStringLiteral("Zone &%1").arg(z + 1), lo), z, 0);
@@ -841,11 +852,11 @@ void frmUserInfo::WriteFirstWeighIn()
         UserRS.SetField("User_ID", CurrentUserID);
         UserRS.SetField("Date", QDate::fromString(lblStartDate->text(), QStringLiteral("yyyy-MM-dd")));
         UserRS.SetField("weight", Val(txtweight->text()));
-        UserRS.SetField("Height", Val(txtHeight->text()));
+        UserRS.SetField("Height", NumOrNull(txtHeight->text()));
         UserRS.SetField("Condition", cboFitness->currentText());
         UserRS.SetField("BMR", Val(txtBMR->text()));
-        UserRS.SetField("BMI", Val(txtBMI->text()));
-        UserRS.SetField("BodyFat", Val(txtBodyfat->text()));
+        UserRS.SetField("BMI", NumOrNull(txtBMI->text()));
+        UserRS.SetField("BodyFat", NumOrNull(txtBodyfat->text()));
         UserRS.Update();
     }
     UserRS.Close();
@@ -877,35 +888,35 @@ void frmUserInfo::WriteUserRow()
     rs.SetField("Name", txtName->text().trimmed());
     rs.SetField("age", Val(txtAge->text()));
     rs.SetField("sex", Male() ? QStringLiteral("M") : QStringLiteral("F"));
-    rs.SetField("Height", Val(txtHeight->text()));
+    rs.SetField("Height", NumOrNull(txtHeight->text()));
     rs.SetField("startdate", lblStartDate->text());
     rs.SetField("personal_measurements", MetricUnits() ? QStringLiteral("kg") : QStringLiteral("lbs"));
     rs.SetField("Workout_In", optWorkoutIn[0]->isChecked() ? QStringLiteral("kg") : QStringLiteral("lbs"));
     rs.SetField("CurrentWeight", Val(txtWeight2->text()));
-    rs.SetField("TargetWeight", Val(txtTargetWeight->text()));
-    rs.SetField("IdealWeight", Val(txtIdealWeight->text()));
+    rs.SetField("TargetWeight", NumOrNull(txtTargetWeight->text()));
+    rs.SetField("IdealWeight", NumOrNull(txtIdealWeight->text()));
     rs.SetField("TargetCals", Val(txtBMR->text()) - Val(lblCals->text()));
     rs.SetField("TargetExCals", Val(lblExercise->text()));
-    rs.SetField("BodyFat", Val(txtBodyfat->text()));
-    rs.SetField("TargetBodyFat", Val(txtBodyFatGoal->text()));
+    rs.SetField("BodyFat", NumOrNull(txtBodyfat->text()));
+    rs.SetField("TargetBodyFat", NumOrNull(txtBodyFatGoal->text()));
     rs.SetField("WeightLossPerWeek", cboWeightLoss->currentText());
     rs.SetField("FrameSize", cboFrame->currentIndex());
-    rs.SetField("BMR", Val(txtBMR->text()));
-    rs.SetField("BMI", Val(txtBMI->text()));
+    rs.SetField("BMR", NumOrNull(txtBMR->text()));
+    rs.SetField("BMI", NumOrNull(txtBMI->text()));
     rs.SetField("Purpose", Combo1->currentText());
     rs.SetField("Fitness_Goals", Combo1->currentText());
     rs.SetField("Current_Condition", cboFitness->currentIndex());
     rs.SetField("DietName", cboDiet->currentText());
     rs.SetField("StrengthLevel", cboStrength->currentText());
     rs.SetField("Prefill", chkPrefill->isChecked());
-    rs.SetField("DietLoss", Val(txtDietLoss->text()));
-    rs.SetField("ExerciseLoss", Val(txtExerciseLoss->text()));
-    rs.SetField("Carbs", Val(txtCarbs->text()));
-    rs.SetField("protein", Val(txtProtein->text()));
-    rs.SetField("Fat", Val(txtFat->text()));
-    rs.SetField("DietCalsPerDay", Val(lblCals->text()));
-    rs.SetField("ExerciseCalsPerDay", Val(lblExercise->text()));
-    rs.SetField("Targetpoints", Val(txtPoints->text()));
+    rs.SetField("DietLoss", NumOrNull(txtDietLoss->text()));
+    rs.SetField("ExerciseLoss", NumOrNull(txtExerciseLoss->text()));
+    rs.SetField("Carbs", NumOrNull(txtCarbs->text()));
+    rs.SetField("protein", NumOrNull(txtProtein->text()));
+    rs.SetField("Fat", NumOrNull(txtFat->text()));
+    rs.SetField("DietCalsPerDay", NumOrNull(lblCals->text()));
+    rs.SetField("ExerciseCalsPerDay", NumOrNull(lblExercise->text()));
+    rs.SetField("Targetpoints", NumOrNull(txtPoints->text()));
     rs.Update();
     rs.Close();
 }

@@ -20,6 +20,10 @@ using energy::NumText;
 
 namespace {
 const QString kMessage = QStringLiteral("Message");
+QVariant NumOrNull(const QString& text)
+{
+    return text.trimmed().isEmpty() ? QVariant() : QVariant(Val(text));
+}
 }
 
 // ---------------------------------------------------------------------------- energy model
@@ -271,14 +275,14 @@ void frmUserInfo::WriteHrmInfo()
         UserRS.SetField("User_ID", CurrentUserID);
     }
     UserRS.SetField("hr_model", cboHRM->currentIndex() < 0 ? QStringLiteral("Other") : cboHRM->currentText());
-    UserRS.SetField("traininglower", Val(txtTrainingHR[0]->text()));
-    UserRS.SetField("trainingupper", Val(txtTrainingHR[1]->text()));
-    UserRS.SetField("RESTING_HR", Val(txtRHR->text()));
-    UserRS.SetField("MAXIMUM_HR", Val(txtMHR->text()));
+    UserRS.SetField("traininglower", NumOrNull(txtTrainingHR[0]->text()));
+    UserRS.SetField("trainingupper", NumOrNull(txtTrainingHR[1]->text()));
+    UserRS.SetField("RESTING_HR", NumOrNull(txtRHR->text()));
+    UserRS.SetField("MAXIMUM_HR", NumOrNull(txtMHR->text()));
     const bool named = UserRS.HasField("Z1Lower");
     for (int i = 0; i < 10; ++i) {
-        if (named) UserRS.SetField(QStringLiteral("Z%1%2").arg(i / 2 + 1).arg(i % 2 ? "Upper" : "Lower"), Val(txtZ1[i]->text()));
-        else UserRS.SetField(5 + i, Val(txtZ1[i]->text()));
+        if (named) UserRS.SetField(QStringLiteral("Z%1%2").arg(i / 2 + 1).arg(i % 2 ? "Upper" : "Lower"), NumOrNull(txtZ1[i]->text()));
+        else UserRS.SetField(5 + i, NumOrNull(txtZ1[i]->text()));
     }
     UserRS.Update();
     UserRS.Close();

@@ -5,9 +5,11 @@
 #include "athlete/frmCondition.h"
 #include "athlete/frmUserInfo.h"
 #include "athlete/percentpie.h"
+#include "athlete/screens.h"
 #include "core/shared.h"
 #include "core/store/value.h"
 
+#include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDir>
@@ -528,4 +530,50 @@ TEST_F(AthleteScreen, ClosingWithoutSaveWritesNothingAndLooksRight)
         const QString file = QDir::temp().filePath(QStringLiteral("frmUserInfo_tab%1.png").arg(i));
         EXPECT_TRUE(f->grab().save(file));
     }
+}
+
+TEST_F(AthleteScreen, FailedSaveLeavesTheAthleteAsItWas)
+{
+    const QString id = AddAthlete("Lou");
+    UserConn.Execute("update User_Info set CurrentWeight=170, age=50 where User_ID=" + id);
+    auto f = Open();
+    f->txtWeight2->setText("160");
+    f->txtAge->setText("51");
+    // A table the save needs is gone: the error is shown and nothing of the save stays.
+    UserConn.Execute("drop table Nutrient_Goals");
+    f->on_cmdSave_clicked();
+    ASSERT_EQ(Ui().Messages().size(), 1);
+    EXPECT_EQ(Ui().LastMessage().title, "Error");
+    EXPECT_NE(f->result(), QDialog::Accepted);
+    EXPECT_DOUBLE_EQ(Val(UserField("select * from User_Info where User_ID=" + id, "CurrentWeight")), 170);
+    EXPECT_DOUBLE_EQ(Val(UserField("select * from User_Info where User_ID=" + id, "age")), 50);
+    EXPECT_EQ(CountUser("hrm_info"), 0);
+    EXPECT_EQ(CurrentUserName, "Lou");
+}
+
+TEST_F(AthleteScreen, ScreensRegisteredAndNoteShownOverANewAthlete)
+{
+    RegisterAthleteScreens();
+    for (const char* name : {"frmUserInfo", "frmCondition", "frmSetupTeams", "frmManageTeams"})
+        EXPECT_TRUE(ui::HasScreen(name)) << name;
+    // The note is another subsystem's screen; a stand-in answers for it here.
+    ui::RegisterScreen("frmNewUser", [](QWidget* p) { return new QDialog(p); });
+    Ui().OnDialog("frmNewUser", [](QDialog*) { return int(QDialog::Accepted); });
+
+    AddAthlete("Max");
+    NewAthlete = true;
+    auto f = Open();
+    f->show();
+    QApplication::processEvents();
+    EXPECT_EQ(Ui().DialogsShown(), QStringList{"frmNewUser"});
+    f->hide();
+    f->show();
+    QApplication::processEvents();
+    EXPECT_EQ(Ui().DialogsShown().size(), 1);   // once per opening
+
+    NewAthlete = false;
+    auto g = Open();
+    g->show();
+    QApplication::processEvents();
+    EXPECT_EQ(Ui().DialogsShown().size(), 1);
 }
