@@ -53,6 +53,15 @@ int DayViewModel::MinuteOf(const QDateTime& dt, const QDate& day)
 }
 
 namespace {
+// The clock time of a minute of a day (24:00 is midnight at its end), whatever the clocks do
+// that day.
+QDateTime WallTime(const QDate& day, int minute)
+{
+    const QDate d = day.addDays(minute / (24 * 60));
+    const int m = minute % (24 * 60);
+    return QDateTime(d, QTime(m / 60, m % 60));
+}
+
 // The numbers among the tab-separated fields of a hidden text: the keys the entry carries.
 int HiddenKey(const QString& hidden)
 {
@@ -172,9 +181,8 @@ bool DayViewModel::ApplySpan(int id, int startMinute, int endMinute)
     DayViewEntry* e = Find(id);
     if (!e || endMinute <= startMinute || startMinute < 0) return false;
     const QDate day = e->start.date();
-    const QDateTime base(day, QTime(0, 0));
-    const QDateTime ns = base.addSecs(qint64(startMinute) * 60);
-    const QDateTime ne = base.addSecs(qint64(endMinute) * 60);
+    const QDateTime ns = WallTime(day, startMinute);
+    const QDateTime ne = WallTime(day, endMinute);
     if (ns == e->start && ne == e->end) return false;
     e->start = ns;
     e->end = ne;
@@ -217,10 +225,7 @@ QList<DayViewModel::Placed> DayViewModel::Layout() const
     return out;
 }
 
-QDateTime DayViewModel::AtMinute(int minute) const
-{
-    return QDateTime(m_date, QTime(0, 0)).addSecs(qint64(minute) * 60);
-}
+QDateTime DayViewModel::AtMinute(int minute) const { return WallTime(m_date, minute); }
 
 // ---------------------------------------------------------------- canvas
 

@@ -84,7 +84,14 @@ bool MonthCalendarPage::eventFilter(QObject* watched, QEvent* event)
             g_justHandled = QDate();
         } else if (event->type() == QEvent::ContextMenu) {
             auto* ce = static_cast<QContextMenuEvent*>(event);
-            const QDate d = DateAt(ce->pos());
+            // From the keyboard the menu is for the current day, beside its cell.
+            const bool keyboard = ce->reason() == QContextMenuEvent::Keyboard;
+            const QDate d = keyboard ? m_owner->Value() : DateAt(ce->pos());
+            if (keyboard && m_cells.contains(d)) {
+                const QPoint at = static_cast<QAbstractItemView*>(m_view)->viewport()->mapToGlobal(m_cells.value(d).center());
+                emit m_owner->DateRightClicked(d, at);
+                return true;
+            }
             if (d.isValid()) emit m_owner->DateRightClicked(d, ce->globalPos());
             return true;
         }
