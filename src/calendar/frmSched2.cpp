@@ -274,6 +274,13 @@ void frmSched2::BuildUi()
     top->addWidget(Caption(tr("Time &scale:"), cbointerval));
     top->addWidget(cbointerval);
     top->addStretch();
+    m_dayCaption = new QLabel;
+    m_dayCaption->setObjectName(QStringLiteral("lblDay"));
+    QFont bold = m_dayCaption->font();
+    bold.setBold(true);
+    bold.setPointSizeF(bold.pointSizeF() + 1);
+    m_dayCaption->setFont(bold);
+    top->addWidget(m_dayCaption);
     rightLayout->addLayout(top);
     DayView = new ::DayView;
     DayView->setObjectName(QStringLiteral("DayView"));
@@ -463,6 +470,7 @@ QDate frmSched2::SelectedDate() const { return CalView->Value(); }
 void frmSched2::LoadDayView()
 {
     DayView->SetDate(SelectedDate());
+    m_dayCaption->setText(regional::LongDate(SelectedDate()));
     ::LoadDayView(DayView);
 }
 

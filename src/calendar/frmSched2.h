@@ -118,6 +118,7 @@ private:
     void OpenEntry(const QString& workoutType);
     void AfterLog();
 
+    QLabel* m_dayCaption = nullptr;
     bool m_loading = false;
     bool m_logDirty = false;
     bool m_unloaded = false;
