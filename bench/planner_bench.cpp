@@ -114,6 +114,19 @@ void BM_SelectFullDay(benchmark::State& state)
 }
 BENCHMARK(BM_SelectFullDay)->Unit(benchmark::kMillisecond);
 
+// The same without drawing: the statements and the filling of the controls alone.
+void BM_LoadFullDay(benchmark::State& state)
+{
+    SignIn(g_stores->fullDay);
+    frmSched2 planner;
+    bool flip = false;
+    for (auto _ : state) {
+        planner.CalView->SetValue(flip ? kFullDay.addDays(1) : kFullDay);
+        flip = !flip;
+    }
+}
+BENCHMARK(BM_LoadFullDay)->Unit(benchmark::kMillisecond);
+
 // Signing in an athlete with five years of data: icons of every date and the planner's load.
 void BM_SignInFiveYears(benchmark::State& state)
 {

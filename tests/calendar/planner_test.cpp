@@ -96,6 +96,19 @@ TEST_F(PlannerTest, DayFiguresAndTheirBmrRules)
     EXPECT_EQ(f.lbs, "0.17");
     EXPECT_EQ(f.label, "= Loss of ");
 
+    // The day's items: weigh-ins, wellness, then the shown meals in their order.
+    AddRow(QStringLiteral("wellness"), {{"User_ID", id}, {"Date", QDate(2024, 3, 10)}});
+    AddRow(QStringLiteral("setup_meals"), {{"User_ID", id.toInt()}, {"Meal_ID", 7}, {"meal", "Supper "}, {"Position", 3}, {"Show", true}});
+    AddRow(QStringLiteral("setup_meals"), {{"User_ID", id.toInt()}, {"Meal_ID", 5}, {"meal", "Breakfast"}, {"Position", 1}, {"Show", true}});
+    AddRow(QStringLiteral("setup_meals"), {{"User_ID", id.toInt()}, {"Meal_ID", 6}, {"meal", "Hidden"}, {"Position", 2}, {"Show", false}});
+    p.CalView->SetValue(QDate(2024, 3, 10));
+    QStringList items;
+    for (int i = 0; i < p.lstItems->count(); ++i) items << p.lstItems->item(i)->text();
+    EXPECT_EQ(items, (QStringList{"Weigh In", "Wellness", "Breakfast", "Supper"}));
+    EXPECT_EQ(p.lstItems->item(3)->data(Qt::UserRole).toInt(), 7);
+    p.CalView->SetValue(QDate(2024, 3, 11));
+    EXPECT_EQ(p.lstItems->count(), 2);
+
     p.CalView->SetValue(QDate(2024, 3, 12));         // no weigh-in that day: the latest earlier
     EXPECT_EQ(Read(p).bmr, "1700");
     EXPECT_EQ(p.DayWeight(), 175);
