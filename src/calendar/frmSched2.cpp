@@ -729,6 +729,8 @@ void frmSched2::SetColor()
     DayView->SetColor(c);
     Tab1->setStyleSheet(QStringLiteral("QTabBar::tab:selected { background: %1; color: %2; }")
                             .arg(c.name(), c.lightness() > 150 ? QStringLiteral("black") : QStringLiteral("white")));
+    // The day's entries wear the colour too.
+    if (!m_loading) Step([this] { LoadDayView(); });
 }
 
 void frmSched2::SetFirstDay(int index)

@@ -35,7 +35,7 @@ void MonthCalendarPage::paintCell(QPainter* p, const QRect& rect, QDate date) co
     const bool selected = inMonth && m_owner->IsSelected(date);
     p->save();
     p->fillRect(rect, selected ? pal.color(QPalette::Highlight) : pal.color(QPalette::Base));
-    if (inMonth && date == m_owner->Value() && hasFocus()) {
+    if (inMonth && date == m_owner->Value() && m_view && m_view->hasFocus()) {
         p->setPen(QPen(pal.color(QPalette::Text), 1, Qt::DotLine));
         p->drawRect(rect.adjusted(1, 1, -2, -2));
     }
