@@ -287,8 +287,10 @@ void MonthCalendar::SetColor(const QColor& c)
                             "QToolButton#qt_calendar_prevmonth, QToolButton#qt_calendar_nextmonth,"
                             "QToolButton#qt_calendar_monthbutton, QToolButton#qt_calendar_yearbutton { color: %2; }")
                             .arg(c.name(), c.lightness() > 150 ? QStringLiteral("black") : QStringLiteral("white"));
+    // The day names on a pale tint of the colour, so that red weekend names stay readable.
+    const QColor tint(c.red() / 5 + 204, c.green() / 5 + 204, c.blue() / 5 + 204);
     QTextCharFormat header;
-    header.setBackground(c.lighter(175));
+    header.setBackground(tint);
     header.setForeground(QColor(30, 30, 30));
     for (MonthCalendarPage* p : m_pages) {
         p->setStyleSheet(css);
