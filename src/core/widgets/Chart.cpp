@@ -4,7 +4,9 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPrinter>
+#include <QResizeEvent>
 #include <QRubberBand>
+#include <QSet>
 #include <QScrollBar>
 #include <QToolTip>
 #include <QVBoxLayout>
@@ -107,6 +109,13 @@ Chart::Chart(QWidget* parent) : QWidget(parent)
 }
 
 Chart::~Chart() = default;
+
+void Chart::resizeEvent(QResizeEvent* e)
+{
+    QWidget::resizeEvent(e);
+    if (m_style != Pie && m_count > 0)
+        rebuild();   // the labels that fit depend on the width
+}
 
 QChartView* Chart::View() const { return m_view; }
 QChart* Chart::GetChart() const { return m_view->chart(); }
@@ -402,7 +411,22 @@ void Chart::rebuild()
         m_first = 0;
         m_count = m_labels.size();
     }
-    QStringList cats = m_labels.mid(m_first, m_count);
+    // The axis wants distinct categories: a day that repeats (two sessions) gets invisible
+    // marks to stay apart, and labels are thinned to what the width can show.
+    const int width = m_view->width() > 100 ? m_view->width() : 640;
+    const int maxLabels = std::max(2, width / 70);
+    const int step = std::max(1, (m_count + maxLabels - 1) / maxLabels);
+    QStringList cats;
+    QSet<QString> used;
+    for (int i = 0; i < m_count; ++i) {
+        QString t = i % step == 0 ? m_labels.value(m_first + i) : QString();
+        if (t.isEmpty())
+            t = QChar(0x200B);   // the axis takes no empty category
+        while (used.contains(t))
+            t += QChar(0x200B);
+        used.insert(t);
+        cats << t;
+    }
     auto* axX = new QBarCategoryAxis;
     axX->append(cats.isEmpty() ? QStringList{QString()} : cats);
     if (!m_xTitle.isEmpty())

@@ -6,7 +6,8 @@
 //     their number, counted from 1 as the screens count their series (SetPieValue(1, 55)).
 //   - Bar or Line by day: up to two series (more are allowed), one value per point, each
 //     point with a label on the X axis (the day, "DD-MM-YY"). Fill with Clear(),
-//     SetSeriesNames() and AddPoint(label, {v1, v2}), or SetData().
+//     SetSeriesNames() and AddPoint(label, {v1, v2}), or SetData(). Labels may repeat (two
+//     sessions on one day are two points); the axis shows as many labels as fit its width.
 //
 // Zoom and pan (bar and line): a left-button drag draws a rectangle and zooms to it (the
 // points under it and the value range it spans); the right button zooms out; the scroll bar
@@ -86,6 +87,9 @@ public:
 
     QChartView* View() const;
     QChart* GetChart() const;
+
+protected:
+    void resizeEvent(QResizeEvent* e) override;
 
 private:
     friend class ChartView;

@@ -64,7 +64,8 @@ public:
     // Decimals shown by the number and formula cells of a column (-1: as typed / up to 4).
     void SetDecimals(int col, int decimals);
 
-    // Values. Text is what the cell shows (a formula cell: its result). Value is the number
+    // Values. Text is what the cell shows (a formula cell: its result; SetText on a formula cell
+    // does nothing, use SetFormula). Value is the number
     // of the cell: the leading number of its text, hours for a time cell, 0 when empty.
     QString Text(int row, int col) const;
     void SetText(int row, int col, const QString& text);

@@ -6,6 +6,7 @@
 #include <QPrinter>
 #include <QScrollBar>
 #include <QTemporaryDir>
+#include <QtCharts/QBarCategoryAxis>
 #include <QtCharts/QBarSeries>
 #include <QtCharts/QChart>
 #include <QtCharts/QChartView>
@@ -71,6 +72,23 @@ TEST(ChartModel, PieSlicesAndSeriesByDay)
     e.SetStyle(Chart::Line);
     EXPECT_EQ(e.GetChart()->series().size(), 1);
     EXPECT_TRUE(qobject_cast<QLineSeries*>(e.GetChart()->series().value(0)));
+    // Two points of one day stay two points on the axis.
+    e.SetData({"05-02-26", "05-02-26", "06-02-26"}, {{1, 2, 3}});
+    auto* axis = qobject_cast<QBarCategoryAxis*>(e.GetChart()->axes(Qt::Horizontal).value(0));
+    ASSERT_TRUE(axis);
+    EXPECT_EQ(axis->count(), 3);
+    // Many days: every point keeps its place, only some carry a label.
+    QStringList days;
+    QVector<double> values;
+    for (int i = 0; i < 365; ++i) {
+        days << QStringLiteral("day %1").arg(i);
+        values << i;
+    }
+    e.SetData(days, {values});
+    axis = qobject_cast<QBarCategoryAxis*>(e.GetChart()->axes(Qt::Horizontal).value(0));
+    EXPECT_EQ(axis->count(), 365);
+    EXPECT_EQ(axis->at(0), "day 0");
+    EXPECT_LT(axis->at(1).trimmed().remove(QChar(0x200B)).size(), 1);
     e.SetData({"a", "b"}, {{1, 2}, {3}});
     EXPECT_EQ(e.SeriesCount(), 2);
     EXPECT_DOUBLE_EQ(e.SeriesValue(1, 1), 0);
