@@ -123,7 +123,9 @@ frmWeighIn::frmWeighIn(QWidget* parent) : QDialog(parent)
                 lstWeighIns->setCurrentRow(i);
         LoadWeighIn(day);
     });
-    resize(900, 640);
+    for (auto* b : findChildren<QPushButton*>())
+        b->setAutoDefault(false);
+    resize(1000, 680);
     CenterForm(this);
 }
 

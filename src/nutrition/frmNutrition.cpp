@@ -75,7 +75,10 @@ frmNutrition::frmNutrition(QWidget* parent) : QDialog(parent)
         LoadTodayFoods();
     });
     updateButtons();
-    resize(1100, 720);
+    // Enter belongs to the field that has it (the search), never to a button by default.
+    for (auto* b : findChildren<QPushButton*>())
+        b->setAutoDefault(false);
+    resize(1180, 760);
     CenterForm(this);
 }
 
@@ -110,8 +113,11 @@ void frmNutrition::buildUi()
                             QStringLiteral("Calories"), QStringLiteral("Protein(g)"), QStringLiteral("Fat(g)"),
                             QStringLiteral("Carbs(g)"), QStringLiteral("Points")});
     List2->setColumnHidden(lstFoodID, true);
-    List2->header()->setSectionResizeMode(lstFood, QHeaderView::Stretch);
     List2->header()->setStretchLastSection(false);
+    List2->header()->setSectionResizeMode(lstFood, QHeaderView::Stretch);
+    List2->setColumnWidth(lstAmount, 90);
+    for (int c = lstCalories; c <= lstPoints; ++c)
+        List2->setColumnWidth(c, 70);
     List2->setContextMenuPolicy(Qt::CustomContextMenu);
     List2->setSelectionMode(QAbstractItemView::SingleSelection);
 
@@ -212,7 +218,7 @@ void frmNutrition::buildUi()
         c->SetStyle(Chart::Pie);
         c->SetTitle(title);
         c->SetPieSlices({QStringLiteral("Carbs"), QStringLiteral("Fat"), QStringLiteral("Protein")});
-        c->setMinimumSize(220, 200);
+        c->setMinimumSize(180, 200);
         return c;
     };
     Chart1 = makePie(QStringLiteral("Chart"), QStringLiteral("Selected Food Percentages"));
@@ -258,8 +264,8 @@ void frmNutrition::buildUi()
     charts->addLayout(pies, 1);
 
     auto* bottom = new QHBoxLayout;
-    bottom->addWidget(SS1, 5);
-    bottom->addLayout(charts, 4);
+    bottom->addWidget(SS1, 1);
+    bottom->addLayout(charts, 1);
 
     auto* closeRow = new QHBoxLayout;
     closeRow->addStretch(1);
@@ -398,7 +404,7 @@ void frmNutrition::FormatGrid()
     }
     for (int c = 1; c <= 6; ++c)
         SS1->SetColumnLocked(c, true);
-    SS1->SetColumnWidthChars(colNutrient, 22);
+    SS1->SetColumnWidthChars(colNutrient, 20);
     for (int c = colAmount; c <= colPercent; ++c)
         SS1->SetColumnWidthChars(c, 8);
     SS1->SetColumnWidthChars(colRdaText, 10);
@@ -800,6 +806,11 @@ void frmNutrition::on_cmdChange_clicked()
             if (List2->topLevelItem(i)->data(0, Qt::UserRole).toString() == foodId)
                 List2->setCurrentItem(List2->topLevelItem(i));
         m_loading = false;
+        if (auto* current = List2->currentItem()) {
+            const daily::Shares s = daily::FoodShares(Val(current->text(lstCalories)), Val(current->text(lstProtein)),
+                                                      Val(current->text(lstFat)), Val(current->text(lstCarbs)));
+            setPie(Chart1, s.carbs, s.fat, s.protein);
+        }
     });
     m_loading = false;
     updateButtons();
