@@ -73,7 +73,7 @@ struct RecordLayout {
         QString origin;             // the base table's column it comes from; empty for an expression
     };
     std::vector<Column> columns;    // without the hidden rowid
-    bool hasRowId = false;          // column 0 of the statement is the rowid
+    bool hasRowId = false;          // the statement's last column is the rowid
     QHash<QString, int> byName;     // lower-case names -> position
 
     // Screens ask for the same fields row after row, mostly with literal names: a name whose

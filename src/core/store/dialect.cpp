@@ -505,10 +505,10 @@ void ReadSelect(Statement& st)
         distinct = s[1].IsKeyword("DISTINCT");
         listAt = 2;
     }
-    st.selectListAt = int(listAt);
     size_t fromAt = s.size();
     for (size_t i = listAt; i < s.size(); ++i)
         if (s[i].IsKeyword("FROM")) { fromAt = i; break; }
+    st.fromAt = fromAt < s.size() ? int(fromAt) : -1;
     bool grouped = false, joined = false, nested = false;
     size_t fromEnd = s.size();
     for (size_t i = fromAt + 1; i < s.size(); ++i) {

@@ -65,7 +65,7 @@ struct Statement {
     // A select of one table without grouping, aggregates, distinct or union: its rows can be
     // changed, and a writer can give each row's identity (see SqlWriter).
     bool updatable = false;
-    int selectListAt = -1;          // index in nodes where the select list starts
+    int fromAt = -1;                // index in nodes of a select's FROM: the row identity goes before it
     std::vector<TableRef> from;     // a select's tables in the order of its FROM
     std::vector<ColumnDef> columns; // create table, alter table add / alter column
     std::vector<std::vector<Node>> tableConstraints;   // create table: PRIMARY KEY (a, b) ...

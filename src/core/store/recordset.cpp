@@ -48,11 +48,10 @@ std::shared_ptr<const RecordLayout> BuildLayout(sqlite3_stmt* st, const Translat
 {
     auto layout = std::make_shared<RecordLayout>();
     layout->hasRowId = hasRowId;
-    const int off = hasRowId ? 1 : 0;
-    const int n = sqlite3_column_count(st);
+    const int n = sqlite3_column_count(st) - (hasRowId ? 1 : 0);
     std::vector<QString> tables;
     QHash<QString, int> counts;
-    for (int i = off; i < n; ++i) {
+    for (int i = 0; i < n; ++i) {
         RecordLayout::Column c;
         c.name = QString::fromUtf8(sqlite3_column_name(st, i));
         c.kind = fieldvalue::KindOf(sqlite3_column_decltype(st, i));
@@ -165,15 +164,14 @@ public:
         deleted.clear();
         values.reserve(size_t(cs.lastRows) * size_t(ncols));
         const bool hasRowId = layout->hasRowId;
-        const int off = hasRowId ? 1 : 0;
         std::vector<fieldvalue::Kind> kinds;
         kinds.reserve(size_t(ncols));
         for (const auto& c : layout->columns) kinds.push_back(c.kind);
         qsizetype n = 0;
         int rc;
         while ((rc = sqlite3_step(st)) == SQLITE_ROW) {
-            if (hasRowId) rowids.push_back(sqlite3_column_int64(st, 0));
-            for (int c = 0; c < ncols; ++c) values.push_back(fieldvalue::Read(st, c + off, kinds[size_t(c)]));
+            for (int c = 0; c < ncols; ++c) values.push_back(fieldvalue::Read(st, c, kinds[size_t(c)]));
+            if (hasRowId) rowids.push_back(sqlite3_column_int64(st, ncols));
             ++n;
         }
         if (rc != SQLITE_DONE) {

@@ -83,10 +83,7 @@ public:
     void Seq(const std::vector<Node>& seq, size_t from = 0, const QString* rowIdAt = nullptr, size_t rowIdIndex = 0)
     {
         for (size_t i = from; i < seq.size(); ++i) {
-            if (rowIdAt && i == rowIdIndex) {
-                Space();
-                out += *rowIdAt;
-            }
+            if (rowIdAt && i == rowIdIndex) out += *rowIdAt;
             const Node& n = seq[i];
             switch (n.kind) {
             case Node::Keyword: Word(n.text); break;
@@ -211,6 +208,7 @@ QString SqliteWriter::Write(const Statement& st, bool withRowId) const
         }
         e.Seq(rest);
     };
+    // The row identity is the last column, so that the statement's own columns keep their places.
     const QString rowId = QStringLiteral("rowid AS ") + RowIdColumn();
     switch (st.kind) {
     case Statement::CreateTable: {
@@ -246,15 +244,15 @@ QString SqliteWriter::Write(const Statement& st, bool withRowId) const
     case Statement::AlterColumn:
         return QString();   // carried out by the connection: SQLite has no ALTER COLUMN
     case Statement::BareTable:
-        e.Word("SELECT");
-        if (withRowId) e.Word(rowId + u',');
-        e.Word("* FROM");
+        e.Word("SELECT *");
+        if (withRowId) e.out += QStringLiteral(", ") + rowId;
+        e.Word("FROM");
         e.Word(Name(st.table));
         return e.out;
     default:
-        if (withRowId && st.updatable && st.selectListAt > 0) {
-            const QString q = Name(st.alias.isEmpty() ? st.table : st.alias) + u'.' + rowId + u',';
-            e.Seq(st.nodes, 0, &q, size_t(st.selectListAt));
+        if (withRowId && st.updatable && st.fromAt > 0) {
+            const QString q = QStringLiteral(", ") + Name(st.alias.isEmpty() ? st.table : st.alias) + u'.' + rowId;
+            e.Seq(st.nodes, 0, &q, size_t(st.fromAt));
         } else {
             e.Seq(st.nodes);
         }

@@ -11,7 +11,7 @@ public:
     virtual ~SqlWriter() = default;
 
     // The statement in the engine's SQL. With withRowId, an updatable select (or a bare table)
-    // gives each row's identity as its first column, named RowIdColumn().
+    // gives each row's identity as its last column, named RowIdColumn().
     virtual QString Write(const Statement& st, bool withRowId) const = 0;
 
     // The declared type that a column of the dialect's type gets, with its constraints of type

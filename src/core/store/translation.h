@@ -8,7 +8,7 @@
 struct Translation {
     sqldialect::Statement::Kind kind = sqldialect::Statement::Other;
     QString sql;            // SQLite's text ("" for ALTER COLUMN, which the connection carries out)
-    QString sqlWithRowId;   // an updatable select or bare table: the same with each row's rowid first
+    QString sqlWithRowId;   // an updatable select or bare table: the same with each row's rowid last
     bool updatable = false;
     QString table;          // the table the statement works on
     QString alias;

@@ -188,11 +188,11 @@ TEST(Translator, WhatTheStoreLearnsOfAStatement)
     EXPECT_TRUE(one.updatable);
     EXPECT_EQ(one.table, u"foods");
     EXPECT_EQ(one.alias, u"a");
-    EXPECT_EQ(one.sqlWithRowId, u"SELECT a.rowid AS __orv_rowid, name, amount FROM foods a WHERE a.food_id = 3");
+    EXPECT_EQ(one.sqlWithRowId, u"SELECT name, amount, a.rowid AS __orv_rowid FROM foods a WHERE a.food_id = 3");
 
     Translation bare = TranslateForSqlite(QStringLiteral("daily_nutrition"));
     EXPECT_EQ(bare.kind, sqldialect::Statement::BareTable);
-    EXPECT_EQ(bare.sqlWithRowId, u"SELECT rowid AS __orv_rowid, * FROM daily_nutrition");
+    EXPECT_EQ(bare.sqlWithRowId, u"SELECT *, rowid AS __orv_rowid FROM daily_nutrition");
 
     for (const char* readOnly : {"select * from foods a, food_groups b where a.group_id = b.group_id",
                                  "select * from a inner join b on a.x = b.x", "select distinct name from foods",
