@@ -33,7 +33,7 @@ frmCreateAthelete1::frmCreateAthelete1(QWidget* parent) : QDialog(parent)
     Text1 = new QLineEdit(page1);
     Text1->setObjectName(QStringLiteral("Text1"));
     Text1->setMaxLength(50);
-    auto* lblName = new QLabel(QStringLiteral("Please enter your &name."), page1);
+    auto* lblName = new QLabel(QStringLiteral("Please enter your name."), page1);
     lblName->setBuddy(Text1);
     optFemale = new QRadioButton(QStringLiteral("&Female"), page1);
     optFemale->setObjectName(QStringLiteral("optFemale"));

@@ -149,10 +149,13 @@ void frmWebView::on_cboFontSize_currentIndexChanged(int index)
 {
     if (m_loading || index < 0) return;
     // The source page stays as it is; the viewer shows a copy with the sizes moved.
-    if (index == MediumSize) {
-        browser->LoadFile(PagePath());
-        return;
-    }
     const QString temp = ProgramFile(QStringLiteral("tempfile.htm"));
-    if (HtmlEdit(PagePath(), temp, index - MediumSize)) browser->LoadFile(temp);
+    if (index == MediumSize || !HtmlEdit(PagePath(), temp, index - MediumSize)) browser->LoadFile(PagePath());
+    else browser->LoadFile(temp);
+    // A page that sets no sizes of its own is shown in a smaller or larger default font.
+    if (!browser->PageHtml().contains(QStringLiteral("size="), Qt::CaseInsensitive)) {
+        QFont f = browser->font();
+        f.setPointSizeF(f.pointSizeF() * (1.0 + 0.15 * (index - MediumSize)));
+        browser->document()->setDefaultFont(f);
+    }
 }
