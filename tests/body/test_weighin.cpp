@@ -10,6 +10,7 @@
 
 #include <QComboBox>
 #include <QDateEdit>
+#include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
@@ -258,5 +259,36 @@ TEST_F(WeighInScreen, PhotoIsKeptTrimmedAndAMissingFileShowsNoPicture)
     EXPECT_EQ(CountUser("WeighIn where Photo='" + FilePath("nothere.jpg") + "'"), 1);
     f.SSCommand1->click();
     EXPECT_EQ(f.txtPhoto->text(), "");
+    SetCalendarDateProvider(nullptr);
+}
+
+TEST_F(WeighInScreen, MetricLabelsGoalsAndTheListSetTheDate)
+{
+    UserConn.Execute("update User_Info set personal_measurements='kg', Height=180 where User_ID=" + id);
+    UserConn.Execute("insert into WeighIn_goals (User_ID, Neck, Waist, weight, BodyFat) values ('" + id + "', 38, 80, 1, 2)");
+    AddWeighIn("2026-10-01", 80, 2023);
+    AddWeighIn("2026-11-01", 79, 2000);
+    SetCalendarDateProvider([] { return QDate(2026, 11, 1); });
+    frmWeighIn f;
+    EXPECT_EQ(f.lblWeight->text(), "kg");
+    EXPECT_EQ(f.fraMeasurements->title(), "Measurements - centimeters");
+    EXPECT_EQ(f.txtGoal[0]->text(), "38");
+    EXPECT_EQ(f.txtGoal[4]->text(), "80");
+    EXPECT_EQ(f.txtGoal[14]->text(), "170");   // the profile's targets replace the stored two
+    EXPECT_EQ(f.txtGoal[15]->text(), "15");
+    // The row's Height is 0: the profile's shows.
+    EXPECT_EQ(f.txtHeight->text(), "180");
+    // kg: the weight counts 2.2 pounds a kilogram; BMI in kg and cm.
+    f.cboCondition->setCurrentText("Good");
+    f.Command2->click();
+    EXPECT_EQ(f.txtBMR->text(), QString::number(qRound((12 * 79 * 2.2 * 0.96 - 4.7 * 40) * 1.1)));
+    f.calcbmi->click();
+    EXPECT_EQ(f.txtBMI->text(), "24.383");
+    // A line of the list sets the date and loads it.
+    ASSERT_EQ(f.lstWeighIns->count(), 2);
+    f.on_lstWeighIns_itemClicked(f.lstWeighIns->item(1));
+    EXPECT_EQ(f.cboDate->date(), QDate(2026, 10, 1));
+    EXPECT_EQ(f.txtData[14]->text(), "80");
+    EXPECT_FALSE(f.cmdSave->isEnabled());
     SetCalendarDateProvider(nullptr);
 }

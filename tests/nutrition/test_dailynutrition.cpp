@@ -1,6 +1,7 @@
 // The food diary: its arithmetic, and the Nutrition view against real stores.
 #include "fixtures/fixture.h"
 
+#include "core/routines.h"
 #include "core/shared.h"
 #include "core/store/recordset.h"
 #include "core/store/value.h"
@@ -451,4 +452,76 @@ TEST_F(NutritionScreen, SearchInAllGroupsAndInOne)
     EXPECT_TRUE(Ui().DialogsShown().contains("frmNutSearch"));
     EXPECT_EQ(f.Combo1->currentText(), "Search All Groups");
     EXPECT_GT(f.list1->topLevelItemCount(), 0);
+}
+
+TEST_F(NutritionScreen, GoalsRdaAndPiesFollowTheirSources)
+{
+    // Nutrient goals by position: row N takes field N (rows 1 to 4 are then the target's).
+    Recordset rs(&UserConn);
+    rs.Open("Nutrient_Goals");
+    rs.AddNew();
+    rs.SetField("User_ID", id);
+    for (int p = 1; p < rs.FieldCount(); ++p)
+        rs.SetField(p, 1000 + p);
+    rs.Update();
+    rs.Close();
+    UserConn.Execute("update User_Info set TargetCals=0 where User_ID=" + id);
+    frmNutrition f;
+    EXPECT_EQ(f.SS1->Text(1, frmNutrition::colGoal), "0");
+    EXPECT_EQ(f.SS1->Text(2, frmNutrition::colGoal), "1002");     // no target: the goal row stays
+    EXPECT_EQ(f.SS1->Text(5, frmNutrition::colGoal), "1005");
+    EXPECT_EQ(f.SS1->Text(f.SS1->MaxRows(), frmNutrition::colGoal), QString::number(1000 + f.SS1->MaxRows()));
+    // The RDA text is blank where the catalogue has none; % RDA from the Amount.
+    for (int r = 1; r <= f.SS1->MaxRows(); ++r)
+        EXPECT_EQ(f.SS1->Text(r, frmNutrition::colRdaText).isEmpty(), !(f.SS1->Value(r, frmNutrition::colRDA) > 0)) << r;
+    Ui().OnDialog("frmChangeAmt", [](QDialog*) { return 0; });
+    Choose(f, "Banana test");
+    EXPECT_GT(f.Chart1->PieValue(1), 0);     // the library food's shares
+    f.cmdAdd->click();
+    // Protein 7 g of an RDA of 50 g: 14 %.
+    EXPECT_EQ(f.SS1->Text(2, frmNutrition::colPercent), "14");
+    // On "Daily Totals" a chooser line leaves the pie alone, and the popup is not offered.
+    f.Tab1->setCurrentIndex(3);
+    f.Chart1->ClearPie();
+    Choose(f, "Oats test");
+    EXPECT_EQ(f.Chart1->PieValue(1), 0);
+    f.mnuCopy_Click();
+    f.Tab1->setCurrentIndex(1);
+    f.mnuPaste_Click();
+    EXPECT_EQ(CountUser("daily_nutrition"), 1);
+}
+
+TEST_F(NutritionScreen, SavedMealIngredientsChangeByTypeAndMealsLeaveTheLibrary)
+{
+    // An ingredient of a saved meal is found by the meal's Food_ID, whatever its date.
+    UserConn.Execute(QString("insert into daily_nutrition (User_ID, [Date], Meal_ID, Type, Food_ID, Name, amount, Measure, calories, points) "
+                             "values ('%1', #2020-01-01#, 9999, '555', %2, 'Ingredient', 100, 'g', 80, 1)")
+                         .arg(id, banana));
+    frmChangeAmt::FoodID = banana;
+    frmChangeAmt::MealID = "0";
+    frmChangeAmt::MealType = "555";
+    frmChangeAmt::MealDate = "2026-11-20";
+    const QString line = frmChangeAmt::ChangeAmount(250, "g", 100, "g");
+    EXPECT_EQ(GetTabField(line, 3), "250 g");
+    EXPECT_EQ(GetTabField(line, 4), "200");
+    EXPECT_DOUBLE_EQ(Diary("points", "meal_id=9999 and type='555'"), 2.5);
+
+    // "De&lete" beside the chooser removes a saved meal from the library on Yes only.
+    LibraryConn.Execute("insert into foods (Group_ID, Name, amount, Measure) values (65, 'Team''s lunch', 1, 'meal(s)')");
+    LibraryConn.Execute("insert into Recipe_Ingredients (recipe_id, Name, Food_ID) values (0, 'Team''s lunch', 1)");
+    frmNutrition f;
+    f.ribbon->button(1)->click();
+    f.LoadFoodList();
+    for (int i = 0; i < f.list1->topLevelItemCount(); ++i)
+        if (f.list1->topLevelItem(i)->text(0) == "Team's lunch")
+            f.list1->setCurrentItem(f.list1->topLevelItem(i));
+    ASSERT_TRUE(f.cmdDelMeal->isEnabled());
+    Ui().Answer(vbNo);
+    f.cmdDelMeal->click();
+    EXPECT_EQ(Ui().LastMessage().text, "Delete this meal from foods library?");
+    EXPECT_EQ(CountLibrary("foods where group_id=65 and name='Team''s lunch'"), 1);
+    Ui().Answer(vbYes);
+    f.cmdDelMeal->click();
+    EXPECT_EQ(CountLibrary("foods where group_id=65 and name='Team''s lunch'"), 0);
+    EXPECT_EQ(CountLibrary("Recipe_Ingredients where recipe_id=0"), 0);
 }
