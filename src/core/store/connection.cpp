@@ -528,12 +528,20 @@ void Connection::RollbackTrans()
 void Connection::CreateStore(const QString& path, const QString& schemaSql, const QString& seedSql, const QString& password)
 {
     if (QFileInfo::exists(path)) throw StoreError(StoreError::FileExists, QStringLiteral("File already exists."));
-    const QByteArray file = QFile::encodeName(path);
+    // The store is made under a working name and takes its own name only when complete, so
+    // that a failure or a crash never leaves a half-made store that would be kept.
+    const QString work = path + QStringLiteral(".creating");
+    auto removeWork = [&work] {
+        for (const char* suffix : {"", "-wal", "-shm", "-journal"}) QFile::remove(work + QLatin1String(suffix));
+    };
+    removeWork();
+    const QByteArray file = QFile::encodeName(work);
     sqlite3* db = nullptr;
     if (sqlite3_open_v2(file.constData(), &db, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE | SQLITE_OPEN_NOMUTEX, nullptr)
         != SQLITE_OK) {
         const QString msg = db ? ErrText(db) : QString();
         sqlite3_close_v2(db);
+        removeWork();
         throw StoreError(StoreError::FileNotFound, QStringLiteral("Could not create file '%1'. %2").arg(path, msg));
     }
     sqlite3_extended_result_codes(db, 1);
@@ -542,13 +550,12 @@ void Connection::CreateStore(const QString& path, const QString& schemaSql, cons
         const StoreError e(StoreError::Generic, QStringLiteral("Could not create '%1' (%2): %3").arg(path, stage, ErrText(db)));
         sqlite3_exec(db, "ROLLBACK", nullptr, nullptr, nullptr);
         sqlite3_close_v2(db);
-        QFile::remove(path);
-        QFile::remove(path + QStringLiteral("-wal"));
-        QFile::remove(path + QStringLiteral("-shm"));
-        QFile::remove(path + QStringLiteral("-journal"));
+        removeWork();
         throw e;
     };
-    if (sqlite3_exec(db, "PRAGMA journal_mode = WAL; PRAGMA synchronous = OFF; BEGIN", nullptr, nullptr, nullptr) != SQLITE_OK)
+    // A new file needs no journal while it is filled: a failure removes it. The log of
+    // everyday work is switched on once it is complete.
+    if (sqlite3_exec(db, "PRAGMA journal_mode = OFF; PRAGMA synchronous = NORMAL; BEGIN", nullptr, nullptr, nullptr) != SQLITE_OK)
         fail(QStringLiteral("start"));
     if (sqlite3_exec(db, schemaSql.toUtf8().constData(), nullptr, nullptr, nullptr) != SQLITE_OK) fail(QStringLiteral("schema"));
     if (sqlite3_exec(db, seedSql.toUtf8().constData(), nullptr, nullptr, nullptr) != SQLITE_OK) fail(QStringLiteral("seed"));
@@ -562,6 +569,11 @@ void Connection::CreateStore(const QString& path, const QString& schemaSql, cons
     const int rc = sqlite3_step(stmt);
     sqlite3_finalize(stmt);
     if (rc != SQLITE_DONE) fail(QStringLiteral("key"));
-    if (sqlite3_exec(db, "COMMIT", nullptr, nullptr, nullptr) != SQLITE_OK) fail(QStringLiteral("commit"));
+    if (sqlite3_exec(db, "COMMIT; PRAGMA journal_mode = WAL", nullptr, nullptr, nullptr) != SQLITE_OK)
+        fail(QStringLiteral("commit"));
     sqlite3_close_v2(db);
+    if (!QFile::rename(work, path)) {
+        removeWork();
+        throw StoreError(StoreError::FileExists, QStringLiteral("File already exists."));
+    }
 }

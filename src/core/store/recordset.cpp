@@ -169,7 +169,21 @@ public:
         for (const auto& c : layout->columns) kinds.push_back(c.kind);
         qsizetype n = 0;
         int rc;
+        bool checked = false;
         while ((rc = sqlite3_step(st)) == SQLITE_ROW) {
+            if (!checked) {
+                // SQLite prepares a statement again when the schema changed under it (another
+                // connection's DDL): then its columns may be others than the layout's.
+                checked = true;
+                if (sqlite3_column_count(st) != ncols + (hasRowId ? 1 : 0)) {
+                    cs.layout = BuildLayout(st, *tr, updatable);
+                    cs.generation = ci->schemaGeneration;
+                    layout = cs.layout;
+                    ncols = int(layout->columns.size());
+                    kinds.clear();
+                    for (const auto& c : layout->columns) kinds.push_back(c.kind);
+                }
+            }
             for (int c = 0; c < ncols; ++c) values.push_back(fieldvalue::Read(st, c, kinds[size_t(c)]));
             if (hasRowId) rowids.push_back(sqlite3_column_int64(st, ncols));
             ++n;

@@ -451,4 +451,25 @@ TEST_F(StoreFile, FailuresCarryNumbersAndLeaveTheStoreWorking)
     EXPECT_EQ(Count(QStringLiteral("select * from people")), 2);
 }
 
+TEST_F(StoreFile, CreatingIsAllOrNothingAndSchemaChangesElsewhereAreSeen)
+{
+    const QString bad = Path("bad.mdb");
+    EXPECT_EQ(ErrorNumber([&] { Connection::CreateStore(bad, QStringLiteral("CREATE TABLE a (x);"),
+                                                        QStringLiteral("INSERT INTO nothere VALUES (1);"), StorePassword); }),
+              StoreError::Generic);
+    EXPECT_TRUE(QDir(m_dir.path()).entryList({QStringLiteral("bad*")}, QDir::Files).isEmpty());
+    EXPECT_EQ(QDir(m_dir.path()).entryList(QDir::Files).filter(QStringLiteral(".creating")).size(), 0);
+
+    EXPECT_EQ(Count(QStringLiteral("select * from people")), 3);
+    sqlite3* other = nullptr;
+    sqlite3_open(QFile::encodeName(m_path).constData(), &other);
+    ASSERT_EQ(sqlite3_exec(other, "ALTER TABLE people ADD COLUMN extra TEXT(5) COLLATE NOCASE DEFAULT 'e'", nullptr,
+                           nullptr, nullptr), SQLITE_OK);
+    sqlite3_close(other);
+    Recordset rs(&conn);
+    rs.Open(QStringLiteral("select * from people"));
+    EXPECT_EQ(rs.FieldCount(), 10);
+    EXPECT_EQ(rs("extra").toString(), u"e");
+}
+
 }  // namespace
