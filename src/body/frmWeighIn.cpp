@@ -185,6 +185,7 @@ QWidget* frmWeighIn::buildWeighInTab()
         mg->addWidget(l, i + 1, 0);
         mg->addWidget(txtData[i], i + 1, 1);
         mg->addWidget(txtGoal[i], i + 1, 2);
+        txtGoal[i]->setAccessibleName(QString::fromLatin1(MeasureNames[i]) + QStringLiteral(" goal"));
         m_lengthLabels[i] = new QLabel(fraMeasurements);
         mg->addWidget(m_lengthLabels[i], i + 1, 3);
     }
@@ -235,6 +236,8 @@ QWidget* frmWeighIn::buildWeighInTab()
     bg->addWidget(new QLabel(QStringLiteral("Actual"), fraBody), r, 1);
     bg->addWidget(new QLabel(QStringLiteral("Goal"), fraBody), r, 2);
     ++r;
+    txtGoal[14]->setAccessibleName(QStringLiteral("Weight goal"));
+    txtGoal[15]->setAccessibleName(QStringLiteral("Body fat goal"));
     addRow(QStringLiteral("W&eight"), txtData[14], txtGoal[14], lblWeight);
     addRow(QStringLiteral("&Height"), txtHeight, nullptr, nullptr);
     addRow(QStringLiteral("Body &Fat %"), txtData[15], txtGoal[15], command3);
@@ -316,6 +319,7 @@ QWidget* frmWeighIn::buildHistoryTab()
     cmdPrintGraph->setObjectName(QStringLiteral("cmdPrintGraph"));
     Chart1 = new Chart(page);
     Chart1->setObjectName(QStringLiteral("Chart1"));
+    Chart1->setAccessibleName(QStringLiteral("History graph"));
     Chart1->SetStyle(Chart::Line);
     Chart1->SetLegendVisible(false);
 

@@ -120,6 +120,7 @@ void frmNutrition::buildUi()
         List2->setColumnWidth(c, 70);
     List2->setContextMenuPolicy(Qt::CustomContextMenu);
     List2->setSelectionMode(QAbstractItemView::SingleSelection);
+    List2->setAccessibleName(QStringLiteral("Foods of the meal"));
 
     mnupopup = new QMenu(this);
     mnupopup->setObjectName(QStringLiteral("mnupopup"));
@@ -175,6 +176,7 @@ void frmNutrition::buildUi()
     list1->setColumnCount(3);
     list1->setHeaderLabels({QStringLiteral("Food"), QStringLiteral("Amount"), QStringLiteral("Group")});
     list1->header()->setSectionResizeMode(0, QHeaderView::Stretch);
+    list1->setAccessibleName(QStringLiteral("Foods to choose from"));
     list1->header()->setStretchLastSection(false);
     cmdDelMeal = new QPushButton(QStringLiteral("De&lete"), chooser);
     cmdDelMeal->setObjectName(QStringLiteral("cmdDelMeal"));
@@ -200,6 +202,7 @@ void frmNutrition::buildUi()
 
     SS1 = new Grid(this);
     SS1->setObjectName(QStringLiteral("SS1"));
+    SS1->setAccessibleName(QStringLiteral("Nutrients"));
 
     calmeter = new QProgressBar(this);
     calmeter->setObjectName(QStringLiteral("calmeter"));
@@ -215,6 +218,7 @@ void frmNutrition::buildUi()
     auto makePie = [this](const QString& name, const QString& title) {
         auto* c = new Chart(this);
         c->setObjectName(name);
+        c->setAccessibleName(title);
         c->SetStyle(Chart::Pie);
         c->SetTitle(title);
         c->SetPieSlices({QStringLiteral("Carbs"), QStringLiteral("Fat"), QStringLiteral("Protein")});
