@@ -149,7 +149,6 @@ frmMain::frmMain(QWidget* parent) : QMainWindow(parent)
     BuildButtonBar();
     Picture1->setVisible(false);
     BuildMenus();
-    BuildPopup();
     ui::SetMainWindow(this);
     Form_Load();
 }
@@ -353,30 +352,6 @@ void frmMain::BuildButtonBar()
         if (*b.screen) m_buttonScreen.insert(b.index, QString::fromLatin1(b.screen));
         const int index = b.index;
         connect(button, &QToolButton::clicked, this, [this, index] { FB1_Click(index); });
-    }
-}
-
-void frmMain::BuildPopup()
-{
-    // The month calendar's popup; the day planner connects Copy, Paste and Delete.
-    mnupopup = new QMenu(this);
-    mnupopup->setObjectName(QStringLiteral("mnupopup"));
-    AddEntry(mnupopup, QStringLiteral("itmCopy"), QStringLiteral("&Copy"));
-    QAction* paste = AddEntry(mnupopup, QStringLiteral("itmPaste"), QStringLiteral("&Paste"));
-    paste->setEnabled(false);   // offered only after a Copy
-    AddEntry(mnupopup, QStringLiteral("itmDelete"), QStringLiteral("&Delete"));
-    QMenu* first = mnupopup->addMenu(QStringLiteral("First Day of Week"));
-    first->setObjectName(QStringLiteral("mnuFirst"));
-    m_menus.insert(QStringLiteral("mnuFirst"), first);
-    const char* days[] = {"Sunday", "Monday", "Tuesday", "Wednesday", "Thrusday", "Friday", "Saturday"};
-    for (int i = 0; i < 7; ++i) {
-        QAction* a = first->addAction(QString::fromLatin1(days[i]));
-        a->setObjectName(QStringLiteral("itmDay_") + QString::number(i));
-        m_items.insert(a->objectName(), a);
-        connect(a, &QAction::triggered, this, [i] {
-            WriteIni(QStringLiteral("Program"), QStringLiteral("FirstDay"), QString::number(i), IniFile);
-            if (Planner().SetFirstDay) Planner().SetFirstDay(i);
-        });
     }
 }
 

@@ -61,7 +61,6 @@ public:
     QMap<int, QToolButton*> FB1;           // its buttons by the system's index
     QAction* itemOpen = nullptr;
     QAction* itemClose = nullptr;
-    QMenu* mnupopup = nullptr;             // the month calendar's popup menu
 
 public slots:
     void itemClose_Click();                // Sign out
@@ -76,7 +75,6 @@ private:
     void Form_Unload();
     void BuildMenus();
     void BuildButtonBar();
-    void BuildPopup();
     QAction* AddEntry(QMenu* menu, const QString& name, const QString& caption);
     void OpenEntry(const QString& entry, const QString& screen, int after, const QString& kind);
     bool OpenScreen(const QString& screen, int after);

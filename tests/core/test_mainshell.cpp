@@ -87,15 +87,13 @@ TEST_F(MainShellTest, MenusAndEntriesInOrder)
         {"itemPrintSetup", "Printer &Setup..."}, {"itmBackupDatabase", "&Backup Database..."}, {"itemExit", "E&xit"},
         {"itmColLightGrey", "Dark Blue"}, {"itmColBurgundy", "Steel Blue"}, {"itmDataExport", "&Export.."},
         {"mnuWebAerobics", "&Exercise/Sports Exchange on the Internet..."}, {"itmhelpFormulas", "&Using Formulas..."},
-        {"itemAssociateAthlete", "&Manage Teams..."}, {"itmDay_4", "Thrusday"}};
+        {"itemAssociateAthlete", "&Manage Teams..."}};
     for (auto it = captionOf.begin(); it != captionOf.end(); ++it) {
         ASSERT_NE(m.Item(it.key()), nullptr) << it.key().toStdString();
         EXPECT_EQ(m.Item(it.key())->text(), it.value()) << it.key().toStdString();
     }
     EXPECT_EQ(m.Menu("itemDataUtil")->title(), QStringLiteral("&Database Utilities"));
     EXPECT_EQ(m.Menu("itmBackColor")->title(), QStringLiteral("Back Color..."));
-    EXPECT_EQ(m.Menu("mnuFirst")->title(), QStringLiteral("First Day of Week"));
-    EXPECT_FALSE(m.Item("itmPaste")->isEnabled());
 }
 
 TEST_F(MainShellTest, EntriesOfMissingScreensAreDisabledUntilTheyExist)
@@ -171,13 +169,6 @@ TEST_F(MainShellTest, BackColoursAreSavedAndApplied)
     EXPECT_EQ(applied, 8);
     EXPECT_EQ(WinColor(RGB(51, 153, 153)), QColor(51, 153, 153));
     EXPECT_EQ(WinColor(10841658), QColor(58, 110, 165));
-
-    // The first day of the week is kept and passed on.
-    int first = -1;
-    Planner().SetFirstDay = [&](int d) { first = d; };
-    m.Item("itmDay_1")->trigger();
-    EXPECT_EQ(first, 1);
-    EXPECT_EQ(ReadIni(QStringLiteral("Program"), QStringLiteral("FirstDay"), IniFile), QStringLiteral("1"));
 }
 
 TEST_F(MainShellTest, SignOutAndBackIn)
