@@ -731,7 +731,8 @@ void frmUserInfo::LoadUserRow()
 
     // The figures that follow from what was read, computed once the fields hold the row.
     const double current = Val(txtweight->text()), target = Val(txtTargetWeight->text());
-    lblDifference->setText(NumText(energy::WeightDifference(current, target)));
+    lblDifference->setText(txtTargetWeight->text().isEmpty() ? QString()
+                                                              : NumText(energy::WeightDifference(current, target)));
     lblLoss->setText(current - target < 0 ? QStringLiteral("Weight gain per week") : QStringLiteral("Weight loss per week"));
     cboWeightLoss->setEnabled(energy::WeeklyAmountAllowed(current, target));
     const double weekly = energy::WeeklyFigure(Val(lblCals->text()), Val(lblExercise->text()));
