@@ -316,6 +316,15 @@ TEST_F(MainShellTest, PageBreaksAndPagedPrinting)
     EXPECT_EQ(preview.windowTitle(), QStringLiteral("Print Preview"));
     preview.cmdPrint->click();   // the dialog is cancelled: nothing is said
     EXPECT_TRUE(Ui().Messages().isEmpty());
+    QPrinter& shared = ProgramPrinter();
+    shared.setOutputFormat(QPrinter::PdfFormat);
+    shared.setOutputFileName(FilePath(QStringLiteral("preview.pdf")));
+    Ui().AnswerPrint(true);
+    preview.cmdPrint->click();
+    shared.setOutputFormat(QPrinter::NativeFormat);
+    EXPECT_EQ(Ui().LastMessage().text, QStringLiteral("Report printed."));
+    EXPECT_EQ(Ui().LastMessage().title, QStringLiteral("Message"));
+    EXPECT_TRUE(QFile::exists(FilePath(QStringLiteral("preview.pdf"))));
 }
 
 TEST_F(MainShellTest, PreviewFontSizesLeaveTheSourceAlone)

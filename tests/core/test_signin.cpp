@@ -8,6 +8,7 @@
 #include "core/ini.h"
 #include "core/screens.h"
 #include "core/shared.h"
+#include "core/store/storeerror.h"
 #include "core/store/value.h"
 
 #include <QComboBox>
@@ -431,6 +432,32 @@ TEST_F(SignInTest, AStoreErrorDuringSignInGoesOnToTheNextStatement)
     EXPECT_TRUE(Ui().LastMessage().text.startsWith(QStringLiteral("Problem opening athlete file:")));
     EXPECT_GT(Ui().LastMessage().text.size(), QStringLiteral("Problem opening athlete file:").size());
     EXPECT_NE(w.result(), int(QDialog::Accepted));
+}
+
+TEST_F(SignInTest, AMissingFileWhileAddingEndsTheProgram)
+{
+    // The athlete screen stands in here as a screen whose store file has gone.
+    static bool failing = false;
+    ui::RegisterScreen(QStringLiteral("frmUserInfo"), [](QWidget*) -> QWidget* {
+        if (failing) throw StoreError(StoreError::FileNotFound, QStringLiteral("File not found"));
+        return nullptr;
+    });
+    struct Reset {
+        ~Reset() { failing = false; }
+    } reset;
+    failing = true;
+
+    frmOpen w;
+    Ui().OnDialog(QStringLiteral("frmCreateAthelete1"), [&](QDialog* d) {
+        return RunWizard(d, QStringLiteral("Doomed"), false, 2, nullptr);
+    });
+    w.command4->click();
+    EXPECT_TRUE(terminated);
+    EXPECT_TRUE(ExitRequested);
+    EXPECT_EQ(Ui().LastMessage().text,
+              QStringLiteral("A Critical Error has occured! Terminating Application.Error:File not found"));
+    EXPECT_EQ(Ui().LastMessage().icon, int(vbCritical));
+    EXPECT_FALSE(Ui().MessageTexts().join('|').contains(QStringLiteral("Welcome")));
 }
 
 }  // namespace
