@@ -451,6 +451,55 @@ TEST_F(StoreFile, FailuresCarryNumbersAndLeaveTheStoreWorking)
     EXPECT_EQ(Count(QStringLiteral("select * from people")), 2);
 }
 
+TEST_F(StoreFile, TheDialectsFunctions)
+{
+    const struct {
+        const char* expression;
+        QVariant value;
+    } cases[] = {
+        {"val('12abc')", 12LL},         {"val('abc')", 0LL},             {"val(' 3.5 kg')", 3.5},
+        {"isnull(val(notes))", -1LL},   {"nz(notes, 'none')", "none"},   {"nz(notes) & '|'", "|"},
+        {"year(born)", 1993LL},         {"month(born)", 4LL},            {"day(born)", 2LL},
+        {"weekday(born)", 6LL},         {"datepart('q', born)", 2LL},    {"dateadd('m', 1, born)", QDate(1993, 5, 2)},
+        {"datediff('d', #1/1/2024#, #1/31/2024#)", 30LL},                {"dateserial(2024, 13, 1)", QDate(2025, 1, 1)},
+        {"cint(2.5)", 2LL},             {"clng(3.5)", 4LL},              {"int(-1.5)", -2LL},
+        {"fix(-1.5)", -1LL},            {"round(2.5)", 2LL},             {"round(0.125, 2)", 0.12},
+        {"cdbl('2.5')", 2.5},           {"cstr(age)", "31"},             {"format(age, '0.00')", "31.00"},
+        {"format(born, 'mm/dd/yyyy')", "04/02/1993"},                    {"left(name, 4)", "Dana"},
+        {"right(name, 3)", "Fox"},      {"mid(name, 6, 2)", "Fo"},       {"len(name)", 8LL},
+        {"instr(name, 'fox')", 6LL},    {"instr(7, name, 'a')", 0LL},    {"ucase(name)", "DANA FOX"},
+        {"lcase(name)", "dana fox"},    {"trim('  a  ')", "a"},          {"iif(active, 'on', 'off')", "on"},
+        {"iif(not active, 'on', 'off')", "off"},                         {"age & ''", "31"},
+    };
+    Recordset rs(&conn);
+    for (const auto& c : cases) {
+        const QString sql = QStringLiteral("select %1 as v from people where name = 'Dana Fox'").arg(QString::fromUtf8(c.expression));
+        try {
+            rs.Open(sql);
+            EXPECT_EQ(rs("v"), c.value) << c.expression;
+            rs.Close();
+        } catch (const StoreError& e) {
+            ADD_FAILURE() << c.expression << ": " << e.what();
+        }
+    }
+    // An expression giving a day in the stored form reads as a date, as max(date) should.
+    rs.Open(QStringLiteral("select format(born, 'yyyy-mm-dd') as f from people where name = 'Dana Fox'"));
+    EXPECT_EQ(rs("f"), QVariant(QDate(1993, 4, 2)));
+    EXPECT_EQ(rs("f").toString(), u"1993-04-02");
+    rs.Close();
+    rs.Open(QStringLiteral("select max(born) as m from people"));
+    EXPECT_EQ(rs("m"), QVariant(QDate(1999, 12, 31)));
+    rs.Close();
+    rs.Open(QStringLiteral("select first(name) as f, last(name) as l, count(*) as n from people"));
+    EXPECT_EQ(rs("f").toString(), u"Dana Fox");
+    EXPECT_EQ(rs("l").toString(), u"Bo Ek");
+    EXPECT_EQ(rs("n").toLongLong(), 3);
+    rs.Close();
+    rs.Open(QStringLiteral("select date() as d, now() as n from people"));
+    EXPECT_EQ(rs("d"), QVariant(QDate::currentDate()));
+    EXPECT_EQ(rs("n").toDateTime().date(), QDate::currentDate());
+}
+
 TEST_F(StoreFile, CreatingIsAllOrNothingAndSchemaChangesElsewhereAreSeen)
 {
     const QString bad = Path("bad.mdb");
