@@ -370,8 +370,12 @@ void Chart::rebuild()
 {
     QChart* c = GetChart();
     c->removeAllSeries();
-    for (QAbstractAxis* ax : c->axes())
-        c->removeAxis(ax), delete ax;
+    // Qt Charts 6.4 keeps drawing a removed axis that had no series: hide it first.
+    for (QAbstractAxis* ax : c->axes()) {
+        ax->setVisible(false);
+        c->removeAxis(ax);
+        delete ax;
+    }
     c->setTitle(m_title);
     c->legend()->setVisible(m_legend);
     c->setAnimationOptions(QChart::NoAnimation);
