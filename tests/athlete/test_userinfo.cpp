@@ -577,3 +577,53 @@ TEST_F(AthleteScreen, ScreensRegisteredAndNoteShownOverANewAthlete)
     QApplication::processEvents();
     EXPECT_EQ(Ui().DialogsShown().size(), 1);
 }
+
+TEST_F(AthleteScreen, ChoicesRoundTripAndSexSwitchRecomputes)
+{
+    const QString id = AddAthlete("Nat");
+    auto f = Open();
+    FillRequired(*f, "180", "30");
+    f->cboFitness->setCurrentIndex(3);
+    f->on_cmdCalc_clicked();
+    EXPECT_EQ(f->txtBMR->text(), "2126");
+    f->optsex[1]->setChecked(true);            // women: 11 and 0.03
+    EXPECT_EQ(f->txtBMR->text(), "1958");
+    f->optsex[0]->setChecked(true);
+    EXPECT_EQ(f->txtBMR->text(), "2126");
+
+    f->Combo1->setCurrentIndex(f->Combo1->findText("Sports Training-Pro"));
+    f->cboStrength->setCurrentIndex(2);
+    f->chkPrefill->setChecked(true);
+    f->optWorkoutIn[0]->setChecked(true);
+    f->cboFrame->setCurrentIndex(1);
+    f->cboDiet->setCurrentIndex(6);
+    f->cboWeightLoss->setCurrentIndex(-1);
+    f->on_cmdSave_clicked();
+    const QString row = "select * from User_Info where User_ID=" + id;
+    EXPECT_EQ(Str(UserField(row, "Purpose")), "Sports Training-Pro");
+    EXPECT_EQ(Str(UserField(row, "Fitness_Goals")), "Sports Training-Pro");
+    EXPECT_EQ(Str(UserField(row, "Workout_In")), "kg");
+    EXPECT_EQ(Str(UserField(row, "DietName")), "The Zone (TM)");
+    EXPECT_NE(Val(UserField(row, "Prefill")), 0);
+    EXPECT_DOUBLE_EQ(Val(UserField(row, "FrameSize")), 1);
+    EXPECT_TRUE(IsNull(UserField(row, "TargetWeight")));   // a field left empty stays empty
+
+    auto g = Open();
+    EXPECT_EQ(g->Combo1->currentText(), "Sports Training-Pro");
+    EXPECT_EQ(g->cboStrength->currentText(), "Advanced");
+    EXPECT_TRUE(g->chkPrefill->isChecked());
+    EXPECT_TRUE(g->optWorkoutIn[0]->isChecked());
+    EXPECT_EQ(g->cboFrame->currentText(), "Medium");
+    EXPECT_EQ(g->cboDiet->currentText(), "The Zone (TM)");
+    EXPECT_EQ(g->cboFitness->currentText(), "Good");
+    EXPECT_EQ(g->txtTargetWeight->text(), "");
+    EXPECT_EQ(g->txtBMR->text(), "2126");
+    // Loading sets the frame and the weight without recomputing the ideal weight.
+    EXPECT_EQ(g->txtIdealWeight->text(), "");
+
+    // A level kept as a position by an older save is read by position.
+    UserConn.Execute("update User_Info set StrengthLevel='1', Prefill=false where User_ID=" + id);
+    auto h = Open();
+    EXPECT_EQ(h->cboStrength->currentText(), "Intermediate");
+    EXPECT_FALSE(h->chkPrefill->isChecked());
+}
