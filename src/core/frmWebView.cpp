@@ -125,7 +125,8 @@ bool frmWebView::HtmlEdit(const QString& from, const QString& to, int steps)
 {
     QFile in(from);
     if (!in.open(QIODevice::ReadOnly)) return false;
-    QString text = QString::fromUtf8(in.readAll());
+    // Read and written byte for byte, so the page keeps its own encoding.
+    const QString text = QString::fromLatin1(in.readAll());
     in.close();
     static const QRegularExpression size(QStringLiteral("size=\"(\\d+)\""), QRegularExpression::CaseInsensitiveOption);
     QString out;
@@ -141,7 +142,7 @@ bool frmWebView::HtmlEdit(const QString& from, const QString& to, int steps)
     out += text.mid(pos);
     QFile o(to);
     if (!o.open(QIODevice::WriteOnly | QIODevice::Truncate)) return false;
-    o.write(out.toUtf8());
+    o.write(out.toLatin1());
     return true;
 }
 
