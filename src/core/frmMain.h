@@ -70,7 +70,6 @@ protected:
     void closeEvent(QCloseEvent* event) override;
 
 private:
-    struct Entry;
     void Form_Load();
     void Form_Unload();
     void BuildMenus();
