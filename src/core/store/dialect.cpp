@@ -278,8 +278,9 @@ private:
 
     void Operator(const QString& op)
     {
-        // "= null" and "<> null" test for Null.
-        if ((op == u"=" || op == u"<>") && NextWordIs({"null"})) {
+        // "= null" and "<> null" test for Null, except where "=" assigns in the set list of an update.
+        const bool assigns = op == u"=" && m_kind == Kind::Update && m_seenSet && !m_seenWhere && m_depth == 0;
+        if ((op == u"=" || op == u"<>") && !assigns && NextWordIs({"null"})) {
             Keyword("IS");
             if (op == u"<>") Keyword("NOT");
             Keyword("NULL");
@@ -313,6 +314,7 @@ private:
                 return;
             }
             if (w == u"distinctrow") { Keyword("DISTINCT"); return; }
+            if (w == u"where" && m_depth == 0) m_seenWhere = true;
             if (w == u"mod") { Push(Node::Operator, QStringLiteral("%")); return; }
             Push(Node::Keyword, w.toUpper());
             return;
@@ -362,6 +364,7 @@ private:
     int m_depth = 0;
     Kind m_kind = Kind::Other;
     bool m_seenSet = false;
+    bool m_seenWhere = false;
 };
 
 // ---------------------------------------------------------------------------------------------

@@ -64,6 +64,8 @@ TEST(Translator, NullTestsBooleansAndDeleteForms)
         {"select * from t where a != null", "SELECT * FROM t WHERE a IS NOT NULL"},
         {"select * from setup_meals where User_ID =1  and show=true order by [Position]",
          "SELECT * FROM setup_meals WHERE User_ID = 1 AND show = -1 ORDER BY Position"},
+        {"update User_Info set DietCalsPerDay=null, b = 1 where User_ID=1 and c = null",
+         "UPDATE User_Info SET DietCalsPerDay = NULL, b = 1 WHERE User_ID = 1 AND c IS NULL"},
         {"update Summary_Display set display = False where fNumber = 3",
          "UPDATE Summary_Display SET display = 0 WHERE fNumber = 3"},
         {"delete * from daily_log where User_ID ='1' and date =#2024-01-05#",
