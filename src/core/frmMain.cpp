@@ -10,6 +10,8 @@
 
 #include <QAction>
 #include <QCloseEvent>
+#include <QTimer>
+#include <QShowEvent>
 #include <QFileInfo>
 #include <QGuiApplication>
 #include <QMenu>
@@ -185,6 +187,20 @@ void frmMain::Form_Load()
     } else {
         setWindowState(Qt::WindowMaximized);
     }
+}
+
+void frmMain::showEvent(QShowEvent* event)
+{
+    QMainWindow::showEvent(event);
+    // Without a window manager a maximised state is never applied: fill the screen ourselves,
+    // leaving the normal geometry to the window manager where there is one.
+    QTimer::singleShot(300, this, [this] {
+        if (!(windowState() & Qt::WindowMaximized)) return;
+        QScreen* s = screen();
+        if (!s) return;
+        const QRect avail = s->availableGeometry();
+        if (frameGeometry().width() < avail.width() * 9 / 10) setGeometry(avail);
+    });
 }
 
 QAction* frmMain::AddEntry(QMenu* menu, const QString& name, const QString& caption)

@@ -1,6 +1,7 @@
 #include "core/store/storefiles.h"
 #include "core/store/connection.h"
 #include "core/shared.h"
+#include "core/store/storeerror.h"
 
 #include <QDir>
 #include <QFile>
@@ -10,8 +11,10 @@ QString Prefix(StoreKind kind) { return kind == StoreKind::Library ? QStringLite
 
 QString ReadResource(const QString& name)
 {
+    // A program built without its schema must not make empty stores that would then be kept.
     QFile f(name);
-    if (!f.open(QIODevice::ReadOnly)) return QString();
+    if (!f.open(QIODevice::ReadOnly))
+        throw StoreError(StoreError::FileNotFound, QStringLiteral("Could not find file '%1'.").arg(name));
     return QString::fromUtf8(f.readAll());
 }
 }  // namespace
