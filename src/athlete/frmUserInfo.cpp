@@ -1,5 +1,6 @@
 // Athlete Information: building the screen, loading the athlete and saving everything.
 #include "athlete/frmUserInfo.h"
+#include "core/widgets/Caption.h"
 #include "athlete/energymodel.h"
 #include "athlete/percentpie.h"
 #include "core/regional.h"
@@ -40,13 +41,6 @@ QLineEdit* Edit(const QString& name, int width = 0)
     e->setObjectName(name);
     if (width) e->setMaximumWidth(width);
     return e;
-}
-
-QLabel* Caption(const QString& text, QWidget* buddy)
-{
-    auto* l = new QLabel(text);
-    if (buddy) l->setBuddy(buddy);
-    return l;
 }
 
 QLabel* Label(const QString& name, const QString& text = QString())

@@ -1,4 +1,5 @@
 #include "calendar/frmSched2.h"
+#include "core/widgets/Caption.h"
 #include "calendar/calendarpopup.h"
 #include "calendar/calendarstore.h"
 #include "calendar/icons.h"
@@ -36,13 +37,6 @@ const QString kExerciseLog = QStringLiteral("frmExerciseLog");
 const QString kStrengthLog = QStringLiteral("frmStrengthLog");
 
 QString NumText(double v) { return Str(QVariant(v)); }
-
-QLabel* Caption(const QString& text, QWidget* buddy)
-{
-    auto* l = new QLabel(text);
-    l->setBuddy(buddy);
-    return l;
-}
 
 QLineEdit* Figure(const QString& name)
 {

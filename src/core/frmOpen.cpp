@@ -152,11 +152,10 @@ frmOpen::frmOpen(QWidget* parent) : QDialog(parent)
     Form_Load();
 }
 
-void frmOpen::Form_Load()
+// Opens the stores and lists the athletes; each step that fails says so once and the next
+// step still runs, so a failed open leaves the window with an empty list.
+void frmOpen::OpenAndLoadUsers()
 {
-    CenterForm(this);
-    ExitRequested = false;
-    lblVersion->setText(VersionText(QStringLiteral("    ")));
     try {
         OpenDatabases();
     } catch (const std::exception&) {
@@ -167,6 +166,14 @@ void frmOpen::Form_Load()
     } catch (const std::exception&) {
         MsgBox(DatabaseMessage, vbInformation, Message);
     }
+}
+
+void frmOpen::Form_Load()
+{
+    CenterForm(this);
+    ExitRequested = false;
+    lblVersion->setText(VersionText(QStringLiteral("    ")));
+    OpenAndLoadUsers();
 }
 
 void frmOpen::showEvent(QShowEvent* event)
@@ -450,14 +457,5 @@ void frmOpen::on_Command5_clicked()
     LibraryConn.Close();
     UserConn.Close();
     MsgBox(QStringLiteral("Database Located."), vbInformation, Message);
-    try {
-        OpenDatabases();
-    } catch (const std::exception&) {
-        MsgBox(DatabaseMessage, vbInformation, Message);
-    }
-    try {
-        LoadUsers();
-    } catch (const std::exception&) {
-        MsgBox(DatabaseMessage, vbInformation, Message);
-    }
+    OpenAndLoadUsers();
 }

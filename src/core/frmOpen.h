@@ -21,6 +21,7 @@ public:
     QLabel* lblVersion = nullptr;
 
     void LoadUsers();
+    void OpenAndLoadUsers();
 
     // Ends the process after a fatal error (a store file gone). Tests replace it.
     static inline std::function<void()> Terminate;
