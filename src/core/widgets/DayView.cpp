@@ -445,6 +445,8 @@ DayView::DayView(QWidget* parent) : QScrollArea(parent)
     setMinimumWidth(220);
     setAccessibleName(QStringLiteral("Day view"));
     setAccessibleDescription(QStringLiteral("The day's timed entries; up and down select, Enter opens"));
+    // A scroll time asked for before the view has its size is applied once the day fits.
+    connect(verticalScrollBar(), &QScrollBar::rangeChanged, this, [this] { ApplyScrollTime(); });
     Relayout();
 }
 
@@ -453,9 +455,10 @@ QWidget* DayView::Canvas() const { return m_canvas; }
 void DayView::resizeEvent(QResizeEvent* event)
 {
     QScrollArea::resizeEvent(event);
-    const int top = MinuteAtY(verticalScrollBar()->value());
+    const int top = m_scrollMinute >= 0 ? m_scrollMinute : MinuteAtY(verticalScrollBar()->value());
     Relayout();
     verticalScrollBar()->setValue(YOfMinute(top));
+    ApplyScrollTime();
 }
 
 void DayView::Relayout()
@@ -477,7 +480,8 @@ void DayView::SetDate(const QDate& d)
 
 void DayView::SetScale(int minutes)
 {
-    const int top = MinuteAtY(verticalScrollBar()->value());
+    const int top = m_scrollMinute >= 0 ? m_scrollMinute : MinuteAtY(verticalScrollBar()->value());
+    m_scrollMinute = -1;
     m_model.SetScale(minutes);
     Relayout();
     verticalScrollBar()->setValue(YOfMinute(top));
@@ -499,7 +503,17 @@ void DayView::SetScrollTime(const QTime& t)
 {
     if (!t.isValid()) return;
     m_canvas->adjustSize();
-    verticalScrollBar()->setValue(YOfMinute(t.hour() * 60 + t.minute()));
+    m_scrollMinute = t.hour() * 60 + t.minute();
+    ApplyScrollTime();
+}
+
+void DayView::ApplyScrollTime()
+{
+    if (m_scrollMinute < 0) return;
+    const int y = YOfMinute(m_scrollMinute);
+    verticalScrollBar()->setValue(y);
+    // Kept until the view is tall enough to reach it, i.e. until it has been laid out.
+    if (verticalScrollBar()->value() == y) m_scrollMinute = -1;
 }
 
 void DayView::SetColor(const QColor& c)

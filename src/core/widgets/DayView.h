@@ -142,10 +142,12 @@ protected:
 private:
     friend class DayViewCanvas;
     void Relayout();
+    void ApplyScrollTime();
     DayViewModel m_model;
     DayViewCanvas* m_canvas = nullptr;
     int m_rowHeight = 22;
     int m_selected = 0;
+    int m_scrollMinute = -1;   // a scroll time not yet reached, in minutes of the day
     QDateTime m_freeStart, m_freeEnd;
     QColor m_headerColour;
 };

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 #include <QSignalSpy>
+#include <QScrollBar>
 #include <QTest>
 
 #include "core/widgets/DayView.h"
@@ -175,4 +176,33 @@ TEST(DayViewWidget, MouseMovesResizesAndSelectsFreeTime)
     EXPECT_EQ(view.SelectedId(), id);
     QTest::keyClick(&view, Qt::Key_Return);
     EXPECT_EQ(dbl.size(), 2);
+}
+
+// The scroll time asked for while the view is still unshown and unsized (as a screen does while
+// it loads) is reached once the view is laid out; a day that fits whole stays at its top.
+TEST(DayViewWidget, ScrollTimeSetBeforeTheViewIsShown)
+{
+    DayView view;
+    view.SetDate(kDay);
+    view.SetScale(15);
+    view.SetScrollTime(QTime(6, 0));
+    view.resize(400, 500);
+    view.show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&view));
+    QCoreApplication::processEvents();
+    EXPECT_EQ(view.MinuteAtY(view.verticalScrollBar()->value()), Minutes(6, 0));
+
+    // A later change of scale keeps the time at the top.
+    view.SetScale(5);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(view.MinuteAtY(view.verticalScrollBar()->value()), Minutes(6, 0));
+
+    DayView whole;
+    whole.SetDate(kDay);
+    whole.SetScale(60);
+    whole.SetScrollTime(QTime(6, 0));
+    whole.resize(400, 2000);
+    whole.show();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(whole.verticalScrollBar()->value(), 0);
 }
