@@ -285,7 +285,11 @@ void MonthCalendar::SetColor(const QColor& c)
     const QString css = QStringLiteral(
                             "QWidget#qt_calendar_navigationbar { background-color: %1; }"
                             "QToolButton#qt_calendar_prevmonth, QToolButton#qt_calendar_nextmonth,"
-                            "QToolButton#qt_calendar_monthbutton, QToolButton#qt_calendar_yearbutton { color: %2; }")
+                            "QToolButton#qt_calendar_monthbutton, QToolButton#qt_calendar_yearbutton { color: %2; }"
+                            // Styled, the month button's menu arrow comes out as a stray mark after the
+                            // month's name; the month list still opens on a click.
+                            "QToolButton#qt_calendar_monthbutton::menu-indicator { image: none; width: 0px; }"
+                            "QToolButton#qt_calendar_monthbutton { padding-right: 2px; }")
                             .arg(c.name(), c.lightness() > 150 ? QStringLiteral("black") : QStringLiteral("white"));
     // The day names on a pale tint of the colour, so that red weekend names stay readable.
     const QColor tint(c.red() / 5 + 204, c.green() / 5 + 204, c.blue() / 5 + 204);
