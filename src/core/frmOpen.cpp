@@ -18,6 +18,7 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
+#include <QScreen>
 #include <QVBoxLayout>
 #include <cstdlib>
 
@@ -180,6 +181,16 @@ void frmOpen::showEvent(QShowEvent* event)
 {
     QDialog::showEvent(event);
     CenterForm(this);
+    // A maximised main window may not have its full size yet when this window first shows:
+    // centre on the screen that it fills.
+    QWidget* main = ui::MainWindow();
+    if (main && main != this && (main->windowState() & Qt::WindowMaximized)) {
+        if (QScreen* s = main->screen()) {
+            const QRect ref = s->availableGeometry();
+            move(qMax(ref.left(), ref.left() + (ref.width() - frameGeometry().width()) / 2),
+                 qMax(ref.top(), ref.top() + (ref.height() - frameGeometry().height()) / 2));
+        }
+    }
 }
 
 void frmOpen::LoadUsers()
