@@ -22,9 +22,9 @@ constexpr int kRows = 10000;
 
 const char* kSchema = R"(
 CREATE TABLE walk ("id" INTEGER PRIMARY KEY AUTOINCREMENT, "name" TEXT(50) COLLATE NOCASE, "amount" DOUBLE,
-                   "visits" LONG, "day" DATETIME, "flag" YESNO NOT NULL DEFAULT 0);
+                   "visits" LONG, "day" DATETIME, "flag" YESNO NOT NULL ON CONFLICT REPLACE DEFAULT 0);
 CREATE TABLE added ("id" INTEGER PRIMARY KEY AUTOINCREMENT, "name" TEXT(50) COLLATE NOCASE, "amount" DOUBLE,
-                    "visits" LONG, "day" DATETIME, "flag" YESNO NOT NULL DEFAULT 0);
+                    "visits" LONG, "day" DATETIME, "flag" YESNO NOT NULL ON CONFLICT REPLACE DEFAULT 0);
 )";
 
 struct Fixture {

@@ -34,8 +34,8 @@ CREATE TABLE User_Info (
     "Current_Condition" DOUBLE,
     "DietName" TEXT(50) COLLATE NOCASE,
     "StrengthLevel" TEXT(50) COLLATE NOCASE,
-    "Prefill" YESNO NOT NULL DEFAULT 0,
-    "AutoGoals" YESNO NOT NULL DEFAULT 0,
+    "Prefill" YESNO NOT NULL ON CONFLICT REPLACE DEFAULT 0,
+    "AutoGoals" YESNO NOT NULL ON CONFLICT REPLACE DEFAULT 0,
     "DietLoss" DOUBLE,
     "ExerciseLoss" DOUBLE,
     "Carbs" DOUBLE,
@@ -65,7 +65,7 @@ CREATE TABLE calendar (
     "Cals" DOUBLE,
     "Duration" TEXT(50) COLLATE NOCASE,
     "Intensity" DOUBLE,
-    "complete" YESNO NOT NULL DEFAULT 0
+    "complete" YESNO NOT NULL ON CONFLICT REPLACE DEFAULT 0
 );
 CREATE INDEX idx_calendar_user_date ON calendar ("User_ID", "Date");
 
@@ -181,23 +181,23 @@ CREATE TABLE Daily_Psych (
     "Date" DATETIME,
     "Name" TEXT(255) COLLATE NOCASE,
     "Key" TEXT(50) COLLATE NOCASE,
-    "AccomplishGoals" YESNO NOT NULL DEFAULT 0,
+    "AccomplishGoals" YESNO NOT NULL ON CONFLICT REPLACE DEFAULT 0,
     "AccompishText" TEXT(255) COLLATE NOCASE,
     "AccomplishDifferent" TEXT(255) COLLATE NOCASE,
     "Levelbefore" TEXT(50) COLLATE NOCASE,
     "Levelafter" TEXT(50) COLLATE NOCASE,
     "Levelfocus" TEXT(50) COLLATE NOCASE,
     "LevelConfidence" TEXT(50) COLLATE NOCASE,
-    "sleep" YESNO NOT NULL DEFAULT 0,
-    "Doubts" YESNO NOT NULL DEFAULT 0,
+    "sleep" YESNO NOT NULL ON CONFLICT REPLACE DEFAULT 0,
+    "Doubts" YESNO NOT NULL ON CONFLICT REPLACE DEFAULT 0,
     "DoubtText" TEXT(255) COLLATE NOCASE,
     "LevelActivation" TEXT(50) COLLATE NOCASE,
     "LevelStress" TEXT(50) COLLATE NOCASE,
     "LevelControl" TEXT(50) COLLATE NOCASE,
-    "Vis" YESNO NOT NULL DEFAULT 0,
+    "Vis" YESNO NOT NULL ON CONFLICT REPLACE DEFAULT 0,
     "VisTExt" TEXT(255) COLLATE NOCASE,
     "LevelCommitted" TEXT(50) COLLATE NOCASE,
-    "Unexpected" YESNO NOT NULL DEFAULT 0,
+    "Unexpected" YESNO NOT NULL ON CONFLICT REPLACE DEFAULT 0,
     "UnexpectedTExt" TEXT(255) COLLATE NOCASE,
     "LevelRating" TEXT(50) COLLATE NOCASE
 );
@@ -309,7 +309,7 @@ CREATE TABLE setup_meals (
     "meal" TEXT(50) COLLATE NOCASE,
     "StartTime" TEXT(50) COLLATE NOCASE,
     "Position" DOUBLE,
-    "Show" YESNO NOT NULL DEFAULT 0
+    "Show" YESNO NOT NULL ON CONFLICT REPLACE DEFAULT 0
 );
 CREATE INDEX idx_setup_meals_user ON setup_meals ("User_ID");
 CREATE INDEX idx_setup_meals_meal ON setup_meals ("Meal_ID");
@@ -402,7 +402,7 @@ CREATE TABLE shopping_cart (
     "Food_name" TEXT(255) COLLATE NOCASE,
     "amount" TEXT(50) COLLATE NOCASE,
     "Price" CURRENCY,
-    "permanent" YESNO NOT NULL DEFAULT 0
+    "permanent" YESNO NOT NULL ON CONFLICT REPLACE DEFAULT 0
 );
 CREATE INDEX idx_shopping_cart_user ON shopping_cart ("User_ID");
 
@@ -469,9 +469,9 @@ CREATE INDEX idx_WeighIn_goals_user ON WeighIn_goals ("User_ID");
 CREATE TABLE wellness (
     "User_ID" TEXT(50) COLLATE NOCASE,
     "Date" DATETIME,
-    "FeelWell" YESNO NOT NULL DEFAULT 0,
+    "FeelWell" YESNO NOT NULL ON CONFLICT REPLACE DEFAULT 0,
     "txtFeelWell" TEXT(255) COLLATE NOCASE,
-    "Accomplish" YESNO NOT NULL DEFAULT 0,
+    "Accomplish" YESNO NOT NULL ON CONFLICT REPLACE DEFAULT 0,
     "txtAccomplish" TEXT(255) COLLATE NOCASE,
     "sleep" DOUBLE,
     "wakeup" TEXT(50) COLLATE NOCASE,

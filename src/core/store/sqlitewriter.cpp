@@ -173,8 +173,10 @@ QString SqliteWriter::ColumnType(const ColumnDef& col) const
     case DataType::Text: return QStringLiteral("TEXT(%1) COLLATE NOCASE").arg(col.size > 0 ? col.size : 255);
     case DataType::LongText: return QStringLiteral("LONGTEXT COLLATE NOCASE");
     case DataType::YesNo: {
+        // A Yes/No is never Null: a Null written to it is stored as its default, No.
         QString t = QStringLiteral("YESNO");
-        if (!HasWords(col.constraints, "NOT", "NULL") && !HasWords(col.constraints, "NULL")) t += QLatin1String(" NOT NULL");
+        if (!HasWords(col.constraints, "NOT", "NULL") && !HasWords(col.constraints, "NULL"))
+            t += QLatin1String(" NOT NULL ON CONFLICT REPLACE");
         if (!HasWords(col.constraints, "DEFAULT")) t += QLatin1String(" DEFAULT 0");
         return t;
     }

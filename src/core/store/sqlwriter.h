@@ -15,7 +15,7 @@ public:
     virtual QString Write(const Statement& st, bool withRowId) const = 0;
 
     // The declared type that a column of the dialect's type gets, with its constraints of type
-    // (for SQLite: "TEXT(10) COLLATE NOCASE", "YESNO NOT NULL DEFAULT 0", "DOUBLE" ...).
+    // (for SQLite: "TEXT(10) COLLATE NOCASE", "YESNO NOT NULL ON CONFLICT REPLACE DEFAULT 0", "DOUBLE" ...).
     virtual QString ColumnType(const ColumnDef& col) const = 0;
 
     // A name as the engine must see it: quoted where it would be read as grammar.

@@ -20,7 +20,7 @@ CREATE TABLE people (
     "age" DOUBLE,
     "visits" LONG,
     "born" DATETIME,
-    "active" YESNO NOT NULL DEFAULT 0,
+    "active" YESNO NOT NULL ON CONFLICT REPLACE DEFAULT 0,
     "notes" LONGTEXT COLLATE NOCASE,
     "group" TEXT(20) COLLATE NOCASE,
     "kind" TEXT(10) COLLATE NOCASE DEFAULT 'plain'
@@ -182,9 +182,21 @@ TEST_F(StoreFile, YesNoHoldsMinusOneAndZero)
     rs.SetField(QStringLiteral("name"), QStringLiteral("Ed"));
     rs.SetField(QStringLiteral("active"), QStringLiteral("True"));
     rs.Update();
+    rs.AddNew();   // a Null set into a Yes/No is No
+    rs.SetField(QStringLiteral("name"), QStringLiteral("Fi"));
+    rs.SetField(QStringLiteral("active"), QVariant());
+    rs.Update();
+    EXPECT_EQ(rs("active"), QVariant(false));
     rs.Close();
-    EXPECT_EQ(Raw("SELECT group_concat(active) FROM (SELECT active FROM people WHERE name IN ('Cy','Di','Ed') ORDER BY name)"),
-              u"0,-1,-1");
+    EXPECT_EQ(Raw("SELECT group_concat(active) FROM (SELECT active FROM people WHERE name IN ('Cy','Di','Ed','Fi') ORDER BY name)"),
+              u"0,-1,-1,0");
+    // Through SQL too: a Null inserted or set is stored as No.
+    conn.Execute(QStringLiteral("insert into people (name, active) values ('Gus', null)"));
+    conn.Execute(QStringLiteral("update people set active = null where name = 'Di'"));
+    EXPECT_EQ(Raw("SELECT group_concat(active) FROM (SELECT active FROM people WHERE name IN ('Di','Gus') ORDER BY name)"),
+              u"0,0");
+    conn.Execute(QStringLiteral("update people set active = true where name = 'Di'"));
+    conn.Execute(QStringLiteral("delete * from people where name in ('Fi', 'Gus')"));
 
     EXPECT_EQ(Count(QStringLiteral("select * from people where active=true")), 3);
     EXPECT_EQ(Count(QStringLiteral("select * from people where active = False")), 3);

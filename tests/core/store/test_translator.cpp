@@ -165,17 +165,17 @@ TEST(Translator, DataDefinitionTypes)
 {
     ExpectAll({
         {"create table Summary_Display (fNumber integer, name text, display yesno, width integer, fname text)",
-         "CREATE TABLE Summary_Display (fNumber LONG, name TEXT(255) COLLATE NOCASE, display YESNO NOT NULL DEFAULT 0, "
+         "CREATE TABLE Summary_Display (fNumber LONG, name TEXT(255) COLLATE NOCASE, display YESNO NOT NULL ON CONFLICT REPLACE DEFAULT 0, "
          "width LONG, fname TEXT(255) COLLATE NOCASE)"},
         {"create table tmpDate (dateS date, sleep double, eDuration text(10), n memo, c currency, b byte, s short, "
          "l long, r single, f float, x bit, k counter, y yes/no, t datetime)",
          "CREATE TABLE tmpDate (dateS DATETIME, sleep DOUBLE, eDuration TEXT(10) COLLATE NOCASE, n LONGTEXT COLLATE NOCASE, "
-         "c CURRENCY, b BYTE, s SHORT, l LONG, r SINGLE, f DOUBLE, x YESNO NOT NULL DEFAULT 0, "
-         "k INTEGER PRIMARY KEY AUTOINCREMENT, y YESNO NOT NULL DEFAULT 0, t DATETIME)"},
+         "c CURRENCY, b BYTE, s SHORT, l LONG, r SINGLE, f DOUBLE, x YESNO NOT NULL ON CONFLICT REPLACE DEFAULT 0, "
+         "k INTEGER PRIMARY KEY AUTOINCREMENT, y YESNO NOT NULL ON CONFLICT REPLACE DEFAULT 0, t DATETIME)"},
         {"create table t (id counter primary key, [my name] varchar(20) not null)",
          "CREATE TABLE t (id INTEGER PRIMARY KEY AUTOINCREMENT, \"my name\" TEXT(20) COLLATE NOCASE NOT NULL)"},
         {"alter table calendar add Duration2 double", "ALTER TABLE calendar ADD COLUMN Duration2 DOUBLE"},
-        {"alter table t add column done yesno", "ALTER TABLE t ADD COLUMN done YESNO NOT NULL DEFAULT 0"},
+        {"alter table t add column done yesno", "ALTER TABLE t ADD COLUMN done YESNO NOT NULL ON CONFLICT REPLACE DEFAULT 0"},
         {"ALTER TABLE t DROP COLUMN x", "ALTER TABLE t DROP COLUMN x"},
         {"ALTER TABLE Workout_exercises ALTER COLUMN weight Double", ""},
         {"drop table tmpDate", "DROP TABLE tmpDate"},
