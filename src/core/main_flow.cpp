@@ -19,10 +19,11 @@ int Main(int argc, char** argv, const std::function<void()>& registerScreens)
     QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
     SetProgramFolder(QCoreApplication::applicationDirPath());
 
-    // One instance only: a second start ends at once, silently.
+    // One instance only: a second start ends at once, silently. A folder where the lock
+    // cannot be made at all (read-only) does not keep the program from starting.
     QLockFile lock(QDir(ProgramFolder()).filePath(QStringLiteral("orvantis.lock")));
     lock.setStaleLockTime(0);
-    if (!lock.tryLock(0)) return 0;
+    if (!lock.tryLock(0) && lock.error() == QLockFile::LockFailedError) return 0;
 
     regional::SetLocale(QLocale::system());
     ui::InstallQtHooks();
