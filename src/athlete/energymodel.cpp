@@ -209,7 +209,8 @@ QList<double> DefaultZoneBoxes() { return {115, 140, 141, 160, 161, 170, 171, 18
 QString ChangeZoneCaption(const QString& caption, int box, const QString& percent)
 {
     const int open = caption.indexOf('(');
-    const int dash = caption.indexOf('-', open + 1);
+    // The dash between the two numbers: a lower side below 0 ("(-8-52%)") has a minus of its own.
+    const int dash = caption.indexOf('-', open + 2);
     const int close = caption.indexOf(QLatin1String("%)"), dash + 1);
     if (open < 0 || dash < 0 || close < 0) return caption;
     if (box % 2 == 0) return caption.left(open + 1) + percent + caption.mid(dash);

@@ -173,7 +173,7 @@ void frmUserInfo::BuildPersonalTab()
     g->addWidget(txtAge, row++, 1);
     g->addWidget(sexBox, row++, 0, 1, 3);
     g->addWidget(unitBox, row++, 0, 1, 3);
-    lblHeight = Caption(QStringLiteral("Height - in"), txtHeight);
+    lblHeight = Caption(QStringLiteral("Hei&ght - in"), txtHeight);
     lblHeight->setObjectName(QStringLiteral("lblHeight"));
     g->addWidget(lblHeight, row, 0);
     g->addWidget(txtHeight, row++, 1);
@@ -219,7 +219,7 @@ void frmUserInfo::BuildWeightTab()
     txtIdealWeight = Edit(QStringLiteral("txtIdealWeight"), 80);
     cmdLBM = Button(QStringLiteral("cmdLBM"), QStringLiteral("Ca&lc"));
     txtBodyfat = Edit(QStringLiteral("txtBodyfat"), 80);
-    cmdBodyfat = Button(QStringLiteral("cmdBodyfat"), QStringLiteral("Cal&c"));
+    cmdBodyfat = Button(QStringLiteral("cmdBodyfat"), QStringLiteral("Calc"));
     txtTargetWeight = Edit(QStringLiteral("txtTargetWeight"), 80);
     txtBodyFatGoal = Edit(QStringLiteral("txtBodyFatGoal"), 80);
     lblDifference = Label(QStringLiteral("lblDifference"));
@@ -258,7 +258,7 @@ void frmUserInfo::BuildWeightTab()
     g->addWidget(cboFrame, row++, 1, Qt::AlignLeft);
     g->addWidget(Caption(QStringLiteral("I&deal Weight"), txtIdealWeight), row, 0);
     g->addLayout(unitRow(txtIdealWeight, lblkg[1], cmdLBM), row++, 1);
-    g->addWidget(Caption(QStringLiteral("Body F&at %"), txtBodyfat), row, 0);
+    g->addWidget(Caption(QStringLiteral("Bod&y Fat %"), txtBodyfat), row, 0);
     g->addLayout(unitRow(txtBodyfat, cmdBodyfat), row++, 1);
 
     auto* goals = new QGroupBox(QStringLiteral("Goals"));
@@ -321,7 +321,7 @@ void frmUserInfo::BuildNutritionTab()
     Graph1->SetTitle(QStringLiteral("Percent of Calories Breakdown"));
     dg->addWidget(Caption(QStringLiteral("D&iet"), cboDiet), 0, 0);
     dg->addWidget(cboDiet, 0, 1, 1, 3);
-    dg->addWidget(Caption(QStringLiteral("&Carbs %"), txtCarbs), 1, 0);
+    dg->addWidget(Caption(QStringLiteral("Car&bs %"), txtCarbs), 1, 0);
     dg->addWidget(txtCarbs, 1, 1);
     dg->addWidget(Caption(QStringLiteral("P&rotein %"), txtProtein), 2, 0);
     dg->addWidget(txtProtein, 2, 1);
@@ -359,7 +359,7 @@ void frmUserInfo::BuildNutritionTab()
     mg->addWidget(lstMeals, 0, 0, 1, 6);
     mg->addWidget(Caption(QStringLiteral("&Meal"), txtMeal), 1, 0);
     mg->addWidget(txtMeal, 1, 1);
-    mg->addWidget(Caption(QStringLiteral("Ti&me"), txtMealTime), 1, 2);
+    mg->addWidget(Caption(QStringLiteral("Tim&e"), txtMealTime), 1, 2);
     mg->addWidget(txtMealTime, 1, 3);
     mg->addWidget(chkShow, 1, 4);
     auto* mb = new QHBoxLayout;
@@ -423,7 +423,7 @@ void frmUserInfo::BuildStrengthTab()
     left->addWidget(unitBox);
     cboStrength = Combo(QStringLiteral("cboStrength"));
     auto* sl = new QHBoxLayout;
-    sl->addWidget(Caption(QStringLiteral("&Strength Level"), cboStrength));
+    sl->addWidget(Caption(QStringLiteral("S&trength Level"), cboStrength));
     sl->addWidget(cboStrength, 1);
     left->addLayout(sl);
     chkPrefill = new QCheckBox(QStringLiteral("&Fill reps and weights from my goals"));
@@ -467,10 +467,11 @@ void frmUserInfo::BuildHeartRateTab()
 
     auto* top = new QGridLayout;
     cboHRM = Combo(QStringLiteral("cboHRM"));
+    cboHRM->setMinimumWidth(110);
     txtRHR = Edit(QStringLiteral("txtRHR"), 70);
     txtMHR = Edit(QStringLiteral("txtMHR"), 70);
     cmdCalculate = Button(QStringLiteral("cmdCalculate"), QStringLiteral("Calculate &MHR and Training Zones"));
-    top->addWidget(Caption(QStringLiteral("Heart Rate &Monitor"), cboHRM), 0, 0);
+    top->addWidget(Caption(QStringLiteral("Heart Rate Mo&nitor"), cboHRM), 0, 0);
     top->addWidget(cboHRM, 0, 1);
     top->addWidget(Caption(QStringLiteral("&Resting Heart Rate"), txtRHR), 1, 0);
     top->addWidget(txtRHR, 1, 1);
@@ -747,8 +748,9 @@ bool frmUserInfo::Male() const { return optsex[0]->isChecked(); }
 void frmUserInfo::SetUnits()
 {
     const bool metric = MetricUnits();
-    lblHeight->setText(metric ? QStringLiteral("Height - cm") : QStringLiteral("Height - in"));
-    lblWeight2->setText(metric ? QStringLiteral("Starting Weight - kg") : QStringLiteral("Starting Weight - lbs"));
+    // The captions keep their keyboard accelerators; only the unit word changes.
+    lblHeight->setText(metric ? QStringLiteral("Hei&ght - cm") : QStringLiteral("Hei&ght - in"));
+    lblWeight2->setText(metric ? QStringLiteral("Starting &Weight - kg") : QStringLiteral("Starting &Weight - lbs"));
     for (QLabel* l : lblkg) l->setText(metric ? QStringLiteral("kg") : QStringLiteral("lbs"));
 }
 

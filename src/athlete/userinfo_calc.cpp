@@ -93,7 +93,10 @@ void frmUserInfo::TargetWeightChanged()
 {
     if (Loading) return;
     const double current = Val(txtweight->text()), target = Val(txtTargetWeight->text());
-    lblDifference->setText(NumText(energy::WeightDifference(current, target)));
+    // No difference is shown before a target is set, as at loading.
+    lblDifference->setText(txtTargetWeight->text().trimmed().isEmpty()
+                               ? QString()
+                               : NumText(energy::WeightDifference(current, target)));
     lblLoss->setText(current - target < 0 ? QStringLiteral("Weight gain per week") : QStringLiteral("Weight loss per week"));
     if (!energy::WeeklyAmountAllowed(current, target)) {
         cboWeightLoss->setCurrentIndex(-1);

@@ -124,6 +124,10 @@ TEST(HeartRate, MaximumRateZonesAndRanges)
     EXPECT_EQ(ChangeZoneCaption("(40-52%)", 1, "55"), "(40-55%)");
     EXPECT_EQ(ChangeZoneCaption("(88-100%)", 9, "97"), "(88-97%)");
     EXPECT_EQ(ChangeZoneCaption("(88-100%)", 8, "90"), "(90-100%)");
+    // A box below the resting rate gives a negative side; the other side stays readable.
+    EXPECT_EQ(ChangeZoneCaption("(40-52%)", 0, "-8"), "(-8-52%)");
+    EXPECT_EQ(ChangeZoneCaption("(-8-52%)", 1, "60"), "(-8-60%)");
+    EXPECT_EQ(ChangeZoneCaption("(-8-52%)", 0, "40"), "(40-52%)");
     EXPECT_EQ(ZoneTooltip("52%"), "(Maximum Heart Rate - Resting Heart Rate) x 52% +  Resting Heart Rate");
 }
 

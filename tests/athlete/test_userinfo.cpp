@@ -9,6 +9,8 @@
 #include "core/shared.h"
 #include "core/store/value.h"
 
+#include <QAbstractButton>
+#include <QPushButton>
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
@@ -23,6 +25,9 @@
 #include <memory>
 
 namespace {
+
+// A caption as the eye reads it, without the accelerator mark.
+QString Shown(const QLabel* l) { return QString(l->text()).remove('&'); }
 
 QVariant UserField(const QString& sql, const QVariant& column)
 {
@@ -186,10 +191,12 @@ TEST_F(AthleteScreen, UnitsRelabelWithoutConverting)
     FillRequired(*f, "200", "35");
     f->txtHeight->setText("70");
     f->txtTargetWeight->setText("180");
-    EXPECT_EQ(f->lblHeight->text(), "Height - in");
+    EXPECT_EQ(Shown(f->lblHeight), "Height - in");
     f->optMetric[0]->setChecked(true);
-    EXPECT_EQ(f->lblHeight->text(), "Height - cm");
-    EXPECT_EQ(f->lblWeight2->text(), "Starting Weight - kg");
+    EXPECT_EQ(Shown(f->lblHeight), "Height - cm");
+    EXPECT_EQ(Shown(f->lblWeight2), "Starting Weight - kg");
+    // The relabelled captions keep their accelerators.
+    EXPECT_EQ(f->lblWeight2->text(), "Starting &Weight - kg");
     for (QLabel* l : f->lblkg) EXPECT_EQ(l->text(), "kg");
     EXPECT_EQ(f->txtWeight2->text(), "200");
     EXPECT_EQ(f->txtHeight->text(), "70");
@@ -202,9 +209,9 @@ TEST_F(AthleteScreen, UnitsRelabelWithoutConverting)
 
     auto back = Open();
     EXPECT_TRUE(back->optMetric[0]->isChecked());
-    EXPECT_EQ(back->lblWeight2->text(), "Starting Weight - kg");
+    EXPECT_EQ(Shown(back->lblWeight2), "Starting Weight - kg");
     back->optMetric[1]->setChecked(true);
-    EXPECT_EQ(back->lblWeight2->text(), "Starting Weight - lbs");
+    EXPECT_EQ(Shown(back->lblWeight2), "Starting Weight - lbs");
     EXPECT_EQ(back->txtWeight2->text(), "200");
 }
 
@@ -219,6 +226,11 @@ TEST_F(AthleteScreen, CalorieSplitFollowsTypingButNotLoading)
     EXPECT_EQ(f->txtBMR->text(), "2500");
     EXPECT_EQ(f->lblDifference->text(), "20");
     EXPECT_TRUE(f->cboWeightLoss->isEnabled());
+    // Without a target there is no difference to show, typed or loaded.
+    f->txtTargetWeight->clear();
+    EXPECT_EQ(f->lblDifference->text(), "");
+    f->txtTargetWeight->setText("180");
+    EXPECT_EQ(f->lblDifference->text(), "20");
 
     // The two shares of one hundred.
     f->txtDietLoss->setText("30");
@@ -522,6 +534,28 @@ TEST_F(AthleteScreen, ClosingWithoutSaveWritesNothingAndLooksRight)
     f->reject();
     EXPECT_TRUE(IsNull(UserField("select * from User_Info where User_ID=" + id, "CurrentWeight")));
     EXPECT_EQ(CountUser("WeighIn"), 0);
+
+    // No two captions of one tab share an accelerator (Save and Close stand on every tab): a
+    // shared one would only move the focus between them.
+    const auto mnemonic = [](const QString& text) {
+        const int at = text.indexOf('&');
+        return at >= 0 && at + 1 < text.size() ? text.at(at + 1).toLower() : QChar();
+    };
+    for (int i = 0; i < f->tabs->count(); ++i) {
+        QStringList owners = {"Save", "Close"};
+        QString keys = QString(mnemonic(f->cmdSave->text())) + mnemonic(f->cmdCancel->text());
+        QStringList texts;
+        for (const QLabel* l : f->tabs->widget(i)->findChildren<QLabel*>()) texts << l->text();
+        for (const QAbstractButton* b : f->tabs->widget(i)->findChildren<QAbstractButton*>()) texts << b->text();
+        for (const QString& t : texts) {
+            const QChar k = mnemonic(t);
+            if (k.isNull()) continue;
+            EXPECT_EQ(keys.indexOf(k), -1) << f->tabs->tabText(i).toStdString() << ": " << t.toStdString()
+                                           << " shares its key with " << owners.value(keys.indexOf(k)).toStdString();
+            keys += k;
+            owners << t;
+        }
+    }
 
     // A picture of each tab, to look at.
     f->resize(860, 660);
