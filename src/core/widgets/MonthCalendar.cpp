@@ -289,8 +289,13 @@ void MonthCalendar::SetColor(const QColor& c)
                             // Styled, the month button's menu arrow comes out as a stray mark after the
                             // month's name; the month list still opens on a click.
                             "QToolButton#qt_calendar_monthbutton::menu-indicator { image: none; width: 0px; }"
-                            "QToolButton#qt_calendar_monthbutton { padding-right: 2px; }")
-                            .arg(c.name(), c.lightness() > 150 ? QStringLiteral("black") : QStringLiteral("white"));
+                            "QToolButton#qt_calendar_monthbutton { padding-right: 2px; }"
+                            // Under the pointer the buttons keep their text readable on the colour.
+                            "QToolButton#qt_calendar_monthbutton:hover, QToolButton#qt_calendar_yearbutton:hover,"
+                            "QToolButton#qt_calendar_monthbutton:pressed, QToolButton#qt_calendar_yearbutton:pressed"
+                            " { background-color: %3; border: none; border-radius: 3px; }")
+                            .arg(c.name(), c.lightness() > 150 ? QStringLiteral("black") : QStringLiteral("white"),
+                                 (c.lightness() > 150 ? c.darker(115) : c.lighter(135)).name());
     // The day names on a pale tint of the colour, so that red weekend names stay readable.
     const QColor tint(c.red() / 5 + 204, c.green() / 5 + 204, c.blue() / 5 + 204);
     QTextCharFormat header;
