@@ -3,7 +3,8 @@
 set -euo pipefail
 PKGS=(cmake ninja-build g++ pkg-config ccache qt6-base-dev qt6-charts-dev libsqlite3-dev sqlite3
       libcurl4-openssl-dev libxlsxwriter-dev libmuparser-dev libgtest-dev libgmock-dev libbenchmark-dev
-      python3-pyftpdlib python3-openpyxl poppler-utils xvfb xauth libgl1-mesa-dri fonts-dejavu-core)
+      python3-pyftpdlib python3-openpyxl poppler-utils xvfb xauth libgl1-mesa-dri fonts-dejavu-core
+      imagemagick x11-apps)
 missing=()
 for p in "${PKGS[@]}"; do
   dpkg-query -W -f='${Status}' "$p" 2>/dev/null | grep -q "install ok installed" || missing+=("$p")
