@@ -1,6 +1,7 @@
 #include "core/widgets/Chart.h"
 
 #include <QCursor>
+#include <QFontMetrics>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPrinter>
@@ -15,6 +16,7 @@
 #include <QtCharts/QBarSet>
 #include <QtCharts/QChart>
 #include <QtCharts/QChartView>
+#include <QtCharts/QLegend>
 #include <QtCharts/QLegendMarker>
 #include <QtCharts/QLineSeries>
 #include <QtCharts/QPieSeries>
@@ -113,8 +115,55 @@ Chart::~Chart() = default;
 void Chart::resizeEvent(QResizeEvent* e)
 {
     QWidget::resizeEvent(e);
-    if (m_style != Pie && m_count > 0)
+    if (m_style == Pie)
+        fitPie();    // the title's lines and the fonts depend on the width
+    else if (m_count > 0)
         rebuild();   // the labels that fit depend on the width
+}
+
+void Chart::showEvent(QShowEvent* e)
+{
+    QWidget::showEvent(e);
+    if (m_style == Pie)
+        fitPie();
+}
+
+QStringList Chart::TitleLines(const QString& title, const QFont& font, int width)
+{
+    const QFontMetrics fm(font);
+    if (width <= 0 || fm.horizontalAdvance(title) <= width || !title.contains(QLatin1Char(' ')))
+        return {title};
+    // Two lines, broken at the blank nearest the middle.
+    int best = -1;
+    for (int i = title.indexOf(QLatin1Char(' ')); i >= 0; i = title.indexOf(QLatin1Char(' '), i + 1))
+        if (best < 0 || std::abs(i - title.size() / 2) < std::abs(best - title.size() / 2))
+            best = i;
+    return {title.left(best), title.mid(best + 1)};
+}
+
+void Chart::fitPie()
+{
+    // A pie beside others is narrow: a smaller title, broken into two lines where one doesn't
+    // fit, and a small legend, so that neither is cut.
+    QChart* c = GetChart();
+    // The title's room: the view less the chart's margins and the frame around its plot.
+    const int width = m_view->isVisible() && m_view->width() > 80 ? m_view->width() - 48 : 0;
+    QFont title = font();
+    title.setBold(true);
+    title.setPointSizeF(std::max(7.0, title.pointSizeF() - (width > 0 && width < 260 ? 1.0 : 0.0)));
+    c->setTitleFont(title);
+    const QStringList lines = TitleLines(m_title, title, width);
+    c->setTitle(lines.size() > 1 ? lines.join(QStringLiteral("<br>")) : m_title);
+    QFont small = font();
+    small.setPointSizeF(std::max(7.0, small.pointSizeF() - (width > 0 && width < 260 ? 2.0 : 1.0)));
+    c->legend()->setFont(small);
+    c->legend()->setMarkerShape(QLegend::MarkerShapeRectangle);
+    c->legend()->setContentsMargins(0, 0, 0, 0);
+    c->setMargins(QMargins(0, 2, 0, 2));
+    for (QAbstractSeries* s : c->series())
+        if (auto* pie = qobject_cast<QPieSeries*>(s))
+            for (QPieSlice* sl : pie->slices())
+                sl->setLabelFont(small);
 }
 
 QChartView* Chart::View() const { return m_view; }
@@ -124,6 +173,8 @@ void Chart::SetTitle(const QString& title)
 {
     m_title = title;
     GetChart()->setTitle(title);
+    if (m_style == Pie)
+        fitPie();
 }
 
 QString Chart::Title() const { return m_title; }
@@ -403,10 +454,19 @@ void Chart::rebuild()
         }
         c->addSeries(pie);
         c->legend()->setAlignment(Qt::AlignBottom);
-        // The legend names the parts; the shares stand on the slices.
+        // The legend names the parts; the shares stand inside the slices, where no width can
+        // cut them, in black or white after the slice's colour.
         const auto markers = c->legend()->markers(pie);
         for (int i = 0; i < markers.size() && i < m_pieNames.size(); ++i)
             markers[i]->setLabel(m_pieNames[i]);
+        for (QPieSlice* sl : pie->slices()) {
+            if (!sl->isLabelVisible())
+                continue;
+            sl->setLabel(QStringLiteral("%1%").arg(qRound(100.0 * sl->percentage())));
+            sl->setLabelPosition(QPieSlice::LabelInsideHorizontal);
+            sl->setLabelColor(sl->brush().color().lightness() < 128 ? Qt::white : Qt::black);
+        }
+        fitPie();
         updateScrollBar();
         return;
     }

@@ -23,6 +23,7 @@
 #include <cmath>
 
 class QChart;
+class QFont;
 class QChartView;
 class QPrinter;
 class QScrollBar;
@@ -85,15 +86,20 @@ public:
     bool Print(QPrinter* printer);                         // through PrintDialog, given printer
     void Render(QPaintDevice* device);                     // draws the chart filling the device
 
+    // A pie's title as shown in a width: one line, or two broken at the middle blank.
+    static QStringList TitleLines(const QString& title, const QFont& font, int width);
+
     QChartView* View() const;
     QChart* GetChart() const;
 
 protected:
     void resizeEvent(QResizeEvent* e) override;
+    void showEvent(QShowEvent* e) override;
 
 private:
     friend class ChartView;
     void rebuild();
+    void fitPie();
     void updateScrollBar();
     double dataMin() const;
     double dataMax() const;
