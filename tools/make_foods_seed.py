@@ -69,6 +69,7 @@ GENERIC_FAST_FOOD = "Fast Foods"
 RECIPE_CATEGORIES = ["Appetizers", "Drinks", "Breads", "Breakfast", "Desserts",
                      "Main Dishes", "Salads", "Side Dishes", "Soups", "Vegetarian"]
 MEALS_GROUP_ID = 65
+BY_WEIGHT = ", by weight"   # the name of the 100 g row of a food served by count
 
 # First word of a household measure -> the unit names that may stand for it, best first.
 MEASURE_SYNONYMS = {
@@ -164,6 +165,40 @@ def unit_names():
     for m in re.finditer(r"\(\s*'((?:[^']|'')*)'", open(path, encoding="utf-8").read()):
         names.append(m.group(1).replace("''", "'"))
     return names
+
+
+def unit_rows():
+    """name -> (type, conversion) of the `units` rows seeded beside us."""
+    path = os.path.join(ROOT, "data", "seed", "library_units.sql")
+    if not os.path.exists(path):
+        return {}
+    rows = {}
+    pat = re.compile(r"\(\s*'((?:[^']|'')*)'\s*,\s*(NULL|'(?:[^']|'')*')\s*,\s*(?:NULL|'(?:[^']|'')*')"
+                     r"\s*,\s*([-0-9.eE]+|NULL)\s*\)", re.I)
+    for m in pat.finditer(open(path, encoding="utf-8").read()):
+        kind = None if m.group(2).upper() == "NULL" else m.group(2)[1:-1].replace("''", "'")
+        try:
+            conv = float(m.group(3))
+        except ValueError:
+            conv = None
+        rows[m.group(1).replace("''", "'").lower()] = (kind, conv)
+    return rows
+
+
+def serving(amount, measure, grams, rows):
+    """The serving as stored: (amount, grams the nutrients are scaled to).
+
+    A weight measure means what it says: its nutrients are those of amount x the unit's grams,
+    so that a later change of portion in grams or ounces gives the same figures. Where the
+    source's stated amount disagrees with its own gram weight by more than a tenth ("12 oz,
+    serving 2.7 oz" weighing 77 g, "1 oz with bone" weighing 19 g of meat), the gram weight is
+    the fact and the amount is recomputed from it."""
+    kind, conv = rows.get(measure.lower(), (None, None))
+    if kind != "weight" or not conv:
+        return amount, grams
+    if abs(amount * conv - grams) > 0.1 * grams:
+        amount = round(grams / conv, 2) or round(grams / conv, 3)
+    return amount, amount * conv
 
 
 def vitamin_a_in_iu():
@@ -310,15 +345,9 @@ def main():
     collist = ", ".join('"%s"' % c for c in columns)
     out_rows = []
     unmapped = 0
-    for food_id, (cat, name, ndb, row) in enumerate(foods, start=1):
-        w = choose_weight(weights.get(ndb))
-        if w:
-            amount, measure_desc, grams = w[0], w[1], w[2]
-            measure = map_measure(measure_desc, units)
-            if units and measure not in units:
-                unmapped += 1
-        else:
-            amount, measure, grams = 100, gram_unit, 100.0
+    rows_of_units = unit_rows()
+
+    def food_row(food_id, cat, name, row, amount, measure, grams):
         factor = grams / 100.0
 
         def value(field):
@@ -332,19 +361,48 @@ def main():
         vals = [str(food_id), str(group_id[cat]), sql_text(name[:255]), number(amount),
                 sql_text(measure[:30]), "0", number(value(ABBREV_KCAL))]
         vals += [number(value(fld)) for fld in fields]
-        out_rows.append("(" + ", ".join(vals) + ")")
+        return "(" + ", ".join(vals) + ")"
+
+    # A food served by count ("1 medium", "1 slice", a source text without a units row) can't
+    # be changed to grams later, as a portion changes only within its measure's type. Such a
+    # food gets a second row of 100 g under its name + BY_WEIGHT, so both ways of eating it
+    # can be logged; the names differ, as foods are looked up by name in several places.
+    food_id = 0
+    by_weight = 0
+    for cat, name, ndb, row in foods:
+        w = choose_weight(weights.get(ndb))
+        if w:
+            amount, measure_desc, grams = w[0], w[1], w[2]
+            measure = map_measure(measure_desc, units)
+            if units and measure not in units:
+                unmapped += 1
+            amount, grams = serving(amount, measure, grams, rows_of_units)
+        else:
+            amount, measure, grams = 100, gram_unit, 100.0
+        food_id += 1
+        out_rows.append(food_row(food_id, cat, name, row, amount, measure, grams))
+        kind = rows_of_units.get(measure.lower(), (None, None))[0]
+        if rows_of_units and kind not in ("weight", "volume") and \
+                len(name) + len(BY_WEIGHT) <= 255:
+            food_id += 1
+            by_weight += 1
+            out_rows.append(food_row(food_id, cat, name + BY_WEIGHT, row, 100, gram_unit, 100.0))
 
     with open(os.path.join(args.out, "library_foods.sql"), "w", encoding="utf-8") as f:
         f.write(header)
         f.write("-- Each row is one household serving (amount and measure) of a food; the nutrients\n"
                 "-- are the source's figures per 100 g scaled to the serving's weight. Figures the\n"
-                "-- source lacks (caffeine, vitamin D, biotin, chromium, molybdenum, chloride) are 0.\n")
+                "-- source lacks (caffeine, vitamin D, biotin, chromium, molybdenum, chloride) are 0.\n"
+                "-- A serving in a weight unit holds the nutrients of that weight. A food served by\n"
+                "-- count (medium, slice, serving, ...) has a second row, its name + \"%s\", of\n"
+                "-- 100 g, so that a portion of it can be given in grams.\n" % BY_WEIGHT)
         for i in range(0, len(out_rows), args.batch):
             f.write("INSERT INTO foods (%s) VALUES\n" % collist)
             f.write(",\n".join(out_rows[i:i + args.batch]))
             f.write(";\n")
-    print("make_foods_seed: %d foods in %d categories (%d servings without a units row)"
-          % (len(out_rows), len(groups), unmapped))
+    print("make_foods_seed: %d foods in %d categories (%d servings without a units row, "
+          "%d rows by weight for foods served by count)"
+          % (len(out_rows), len(groups), unmapped, by_weight))
 
 
 if __name__ == "__main__":

@@ -11,6 +11,8 @@
 #include <QListWidget>
 #include <QPushButton>
 #include <QTreeWidget>
+#include <QHash>
+#include <QSet>
 
 #include "core/regional.h"
 #include "core/shared.h"
@@ -176,7 +178,7 @@ TEST_F(FoodsTest, SearchUsesTwoTermsAndSkipsSavedMeals)
 
     // A third word stays with the second: "banana, raw" is one term, matched as written.
     Search(f, "pepper banana, raw");
-    EXPECT_EQ(Names(f), QStringList{"Pepper, banana, raw"});
+    EXPECT_EQ(Names(f), QStringList({"Pepper, banana, raw", "Pepper, banana, raw, by weight"}));
     Ui().ClearMessages();
     Search(f, "pepper banana raw");
     EXPECT_EQ(f.lstFoods->topLevelItemCount(), 0);
@@ -426,4 +428,52 @@ TEST_F(FoodsTest, ScreenDrawsWithAFoodShown)
     EXPECT_EQ(shot.width(), 1200);
     // A picture of the view for a person to look at.
     shot.save(QDir::temp().filePath("orvantis-foods.png"));
+}
+
+TEST_F(FoodsTest, SeededServingsHoldWhatTheirMeasureSays)
+{
+    // A serving in a weight unit holds that weight's nutrients: the source's "12 oz, serving
+    // 2.7 oz" weighing 77 g is 2.72 oz, at the source's 296 kcal a 100 g.
+    QVariantList row = FoodRow("name='Sausage, pork and beef, with cheddar cheese, smoked'");
+    ASSERT_EQ(row.size(), 43);
+    EXPECT_EQ(Str(row[4]), "oz");
+    EXPECT_NEAR(Val(row[6]) / (Val(row[3]) * 28.349523125) * 100, 296, 0.5);
+
+    // A food served by count can be had in grams too, from its twin row of 100 g.
+    row = FoodRow("name='Bananas, raw'");
+    ASSERT_EQ(row.size(), 43);
+    EXPECT_EQ(Str(row[3]) + " " + Str(row[4]), "1 medium");
+    const QVariantList grams = FoodRow("name='Bananas, raw, by weight'");
+    ASSERT_EQ(grams.size(), 43);
+    EXPECT_EQ(Str(grams[3]) + " " + Str(grams[4]), "100 g");
+    EXPECT_EQ(Val(grams[1]), Val(row[1]));
+    EXPECT_NEAR(Val(row[6]), Val(grams[6]) * 1.18, 0.01);   // a medium banana weighs 118 g
+
+    // And so every seeded food whose measure is no weight or volume.
+    QHash<QString, QString> kind;
+    Recordset units(&LibraryConn);
+    units.Open("select * from units");
+    for (; !units.Eof(); units.MoveNext())
+        kind.insert(Str(units.Field("name")).toLower(), Str(units.Field("type")));
+    units.Close();
+    QSet<QString> names;
+    QList<QPair<QString, QString>> served;
+    Recordset foods(&LibraryConn);
+    foods.Open("select name, measure from foods where group_id <> 65");
+    for (; !foods.Eof(); foods.MoveNext()) {
+        const QString name = Str(foods.Field(0));
+        names.insert(name);
+        served.append({name, Str(foods.Field(1))});
+    }
+    foods.Close();
+    ASSERT_GT(served.size(), 5000);
+    int count = 0;
+    for (const auto& [name, measure] : served) {
+        const QString k = kind.value(measure.toLower());
+        if (k == "weight" || k == "volume" || name.startsWith("Test ") || name.size() > 243)
+            continue;
+        ++count;
+        EXPECT_TRUE(names.contains(name + ", by weight")) << name.toStdString() << " (" << measure.toStdString() << ")";
+    }
+    EXPECT_GT(count, 1000);
 }
