@@ -223,7 +223,8 @@ void frmFoods::buildUi()
     connect(cboGroups, &QComboBox::currentIndexChanged, this, [this](int i) { Guard([&] { on_cboGroups_changed(i); }); });
     connect(cmdSearch, &QPushButton::clicked, this, [this] { Guard([&] { on_cmdSearch_clicked(); }); });
     connect(txtSearch, &QLineEdit::returnPressed, this, [this] { Guard([&] { on_cmdSearch_clicked(); }); });
-    connect(lstFoods, &QTreeWidget::currentItemChanged, this, [this] { Guard([&] { on_lstFoods_changed(); }); });
+    // A click makes a line current before it selects it: the food loads on the selection.
+    connect(lstFoods, &QTreeWidget::itemSelectionChanged, this, [this] { Guard([&] { on_lstFoods_changed(); }); });
     connect(SS1, &Grid::CellEdited, this, [this](int r, int c) { Guard([&] { on_SS1_edited(r, c); }); });
     connect(cmdCalcKJ, &QPushButton::clicked, this, [this] { Guard([&] { on_cmdCalcKJ_clicked(); }); });
     connect(cmdSave, &QPushButton::clicked, this, [this] { Guard([&] { on_cmdSave_clicked(); }); });

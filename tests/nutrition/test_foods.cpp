@@ -11,6 +11,7 @@
 #include <QListWidget>
 #include <QPushButton>
 #include <QTreeWidget>
+#include <QtTest/QTest>
 #include <QHash>
 #include <QSet>
 
@@ -428,6 +429,21 @@ TEST_F(FoodsTest, ScreenDrawsWithAFoodShown)
     EXPECT_EQ(shot.width(), 1200);
     // A picture of the view for a person to look at.
     shot.save(QDir::temp().filePath("orvantis-foods.png"));
+}
+
+TEST_F(FoodsTest, ClickingALineShowsItsFood)
+{
+    frmFoods f;
+    f.show();
+    Search(f, "test oats");
+    QTreeWidgetItem* it = Line(f, "Test Oats");
+    ASSERT_TRUE(it);
+    // A mouse click: the line becomes current first, selected after.
+    QTest::mouseClick(f.lstFoods->viewport(), Qt::LeftButton, {}, f.lstFoods->visualItemRect(it).center());
+    EXPECT_TRUE(it->isSelected());
+    EXPECT_EQ(f.txtFood->text(), "Test Oats");
+    EXPECT_EQ(f.txtData[1]->text(), "300");
+    EXPECT_TRUE(f.cmdDelete->isEnabled());
 }
 
 TEST_F(FoodsTest, SeededServingsHoldWhatTheirMeasureSays)
