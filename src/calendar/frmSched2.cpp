@@ -372,7 +372,7 @@ void frmSched2::Form_Load()
     DayView->SetScrollTime(QTime(6, 0));
 }
 
-void frmSched2::LoadToday()
+void frmSched2::LoadMuscleGroups()
 {
     const bool was = m_loading;
     m_loading = true;
@@ -386,6 +386,14 @@ void frmSched2::LoadToday()
     }
     LibraryRS.Close();
     cboMuscleGroup->setCurrentIndex(0);
+    m_loading = was;
+}
+
+void frmSched2::LoadToday()
+{
+    const bool was = m_loading;
+    m_loading = true;
+    LoadMuscleGroups();
 
     cmdAddEndurance->setEnabled(false);
     SqlText = QStringLiteral("select distinct exercise,Image from endurance_exercises  order by exercise");

@@ -64,6 +64,8 @@ public:
     // Procedures.
     void LoadNotes();
     void LoadToday();
+    // "All", then the library's muscle groups.
+    void LoadMuscleGroups();
     void LoadWater();
     void SaveLog();
     void FormatLog();

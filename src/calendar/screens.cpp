@@ -19,6 +19,9 @@ void RegisterCalendarScreens()
     link.LoadNetCalories = [] { Guard([] { LoadNetCalories(); }); };
     link.LoadDayItems = [] { Guard([] { LoadDayItems(); }); };
     link.LoadDayView = [] { Guard([] { LoadDayView(); }); };
+    link.LoadMuscleGroups = [] {
+        if (frmSched2* p = OpenPlanner()) Guard([p] { p->LoadMuscleGroups(); });
+    };
     link.SelectTab = [](int tab) {
         if (frmSched2* p = OpenPlanner()) p->SelectTab(tab);
     };

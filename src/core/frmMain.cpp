@@ -316,6 +316,7 @@ void frmMain::BuildMenus()
         DialogCancelled = true;
         ShowModal(QStringLiteral("frmUserInfo"));
         DialogCancelled = false;
+        PlannerCall(Planner().LoadMuscleGroups);
         PlannerCall(Planner().LoadDayItems);
     });
     screenEntry(athlete, "itemPassword", QStringLiteral("&Password..."), "ChangePass");

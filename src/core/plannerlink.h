@@ -10,6 +10,7 @@ struct PlannerLink {
     std::function<void()> LoadNetCalories;
     std::function<void()> LoadDayItems;
     std::function<void()> LoadDayView;
+    std::function<void()> LoadMuscleGroups;          // refills the strength tab's muscle group list
     std::function<void(int tab)> SelectTab;          // tabs numbered from 1
     std::function<void(bool multi)> SetMultiCalendar; // the buttons Single and Multi
     std::function<void()> SetColor;                  // applies AppColor to the calendar and tab strip
