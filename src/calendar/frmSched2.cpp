@@ -898,19 +898,25 @@ void frmSched2::on_cboMuscleGroup_currentIndexChanged(int)
     Guard([this] { LoadWorkouts(); });
 }
 
+// The description under a list: the first column of the statement's first row.
+void frmSched2::ShowDescription(QLabel* label, const QString& sql)
+{
+    Guard([&] {
+        SqlText = sql;
+        LibraryRS.Open(SqlText);
+        if (!LibraryRS.Eof()) label->setText(Str(LibraryRS.Field(0)));
+        LibraryRS.Close();
+    });
+}
+
 void frmSched2::ListView1_Select()
 {
     QListWidgetItem* item = ListView1->currentItem();
     cmdAddEndurance->setEnabled(item && ui::HasScreen(kExerciseLog));
     lblExerciseDesc->clear();
     if (!item || m_loading) return;
-    Guard([&] {
-        SqlText = QStringLiteral("select desc from endurance_exercises where exercise='") + SqlQuote(item->text())
-                  + QStringLiteral("'");
-        LibraryRS.Open(SqlText);
-        if (!LibraryRS.Eof()) lblExerciseDesc->setText(Str(LibraryRS.Field(0)));
-        LibraryRS.Close();
-    });
+    ShowDescription(lblExerciseDesc, QStringLiteral("select desc from endurance_exercises where exercise='")
+                                         + SqlQuote(item->text()) + QStringLiteral("'"));
 }
 
 void frmSched2::lstWorkouts_Select()
@@ -919,13 +925,8 @@ void frmSched2::lstWorkouts_Select()
     cmdAddWorkout->setEnabled(item && ui::HasScreen(kStrengthLog));
     lblWorkoutDesc->clear();
     if (!item || m_loading) return;
-    Guard([&] {
-        SqlText = QStringLiteral("select workout_desc from workouts where workout_name='") + SqlQuote(item->text())
-                  + QStringLiteral("'");
-        LibraryRS.Open(SqlText);
-        if (!LibraryRS.Eof()) lblWorkoutDesc->setText(Str(LibraryRS.Field(0)));
-        LibraryRS.Close();
-    });
+    ShowDescription(lblWorkoutDesc, QStringLiteral("select workout_desc from workouts where workout_name='")
+                                        + SqlQuote(item->text()) + QStringLiteral("'"));
 }
 
 void frmSched2::on_cmdAddEndurance_clicked()

@@ -66,6 +66,7 @@ public:
     void LoadToday();
     // "All", then the library's muscle groups.
     void LoadMuscleGroups();
+    void ShowDescription(QLabel* label, const QString& sql);
     void LoadWater();
     void SaveLog();
     void FormatLog();
