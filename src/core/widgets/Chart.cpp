@@ -153,7 +153,9 @@ void Chart::fitPie()
     title.setPointSizeF(std::max(7.0, title.pointSizeF() - (width > 0 && width < 260 ? 1.0 : 0.0)));
     c->setTitleFont(title);
     const QStringList lines = TitleLines(m_title, title, width);
-    c->setTitle(lines.size() > 1 ? lines.join(QStringLiteral("<br>")) : m_title);
+    c->setTitle(lines.size() > 1
+                    ? QStringLiteral("<p align=\"center\">") + lines.join(QStringLiteral("<br>")) + QStringLiteral("</p>")
+                    : m_title);
     QFont small = font();
     small.setPointSizeF(std::max(7.0, small.pointSizeF() - (width > 0 && width < 260 ? 2.0 : 1.0)));
     c->legend()->setFont(small);
