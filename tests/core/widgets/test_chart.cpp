@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 #include <QCoreApplication>
 #include <QFile>
+#include <QFontMetrics>
 #include <QPrinter>
 #include <QScrollBar>
 #include <QTemporaryDir>
@@ -12,6 +13,7 @@
 #include <QtCharts/QChartView>
 #include <QtCharts/QLineSeries>
 #include <QtCharts/QPieSeries>
+#include <QtCharts/QPieSlice>
 #include <cmath>
 
 #include "core/widgets/Chart.h"
@@ -95,6 +97,36 @@ TEST(ChartModel, PieSlicesAndSeriesByDay)
     e.Clear();
     EXPECT_EQ(e.PointCount(), 0);
     EXPECT_EQ(e.SeriesNames().size(), 2);
+}
+
+TEST(ChartModel, NarrowPieKeepsItsTitleAndShares)
+{
+    QFont font;
+    const QString title = "Selected Food Percentages";
+    const int full = QFontMetrics(font).horizontalAdvance(title);
+    EXPECT_EQ(Chart::TitleLines(title, font, full + 10), QStringList{title});
+    EXPECT_EQ(Chart::TitleLines(title, font, full / 2), QStringList({"Selected Food", "Percentages"}));
+    EXPECT_EQ(Chart::TitleLines("Percentages", font, 5), QStringList{"Percentages"});   // no blank to break at
+    EXPECT_EQ(Chart::TitleLines(title, font, 0), QStringList{title});                   // not laid out yet
+
+    // Shown narrow: two lines, and the shares stand inside their slices with the name left
+    // to the legend.
+    Chart c;
+    c.SetTitle(title);
+    c.SetPieSlices({"Carbs", "Fat", "Protein"});
+    c.SetPieValue(1, 93);
+    c.SetPieValue(2, 3);
+    c.SetPieValue(3, 4);
+    c.resize(170, 260);
+    c.show();
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(c.GetChart()->title().contains("<br>"));
+    EXPECT_EQ(c.Title(), title);
+    auto* pie = qobject_cast<QPieSeries*>(c.GetChart()->series().value(0));
+    ASSERT_TRUE(pie);
+    EXPECT_EQ(pie->slices()[0]->label(), "93%");
+    EXPECT_EQ(pie->slices()[0]->labelPosition(), QPieSlice::LabelInsideHorizontal);
+    EXPECT_FALSE(pie->slices()[1]->isLabelVisible());   // 3%: told by its tooltip
 }
 
 TEST(ChartModel, ZoomPanAndPointer)
