@@ -458,6 +458,19 @@ void frmNutrition::addListLine(const QStringList& cells, const QString& foodId)
         item->setTextAlignment(c, Qt::AlignRight | Qt::AlignVCenter);
 }
 
+// A food's line from its row (diary or library): name, "amount measure", calories, protein,
+// fat, carbs and points, with the meal it belongs to.
+void frmNutrition::addListLine(const Recordset& rs, const QString& foodId, const QString& name, const QString& meal)
+{
+    addListLine({foodId, name,
+                 Str(rs.Field(QStringLiteral("amount"))) + QStringLiteral(" ") + Str(rs.Field(QStringLiteral("Measure"))),
+                 Num(Val(rs.Field(QStringLiteral("calories")))), Num(Val(rs.Field(QStringLiteral("protein")))),
+                 Num(Val(rs.Field(QStringLiteral("Fat")))), Num(Val(rs.Field(QStringLiteral("Carbs")))),
+                 Num(Val(rs.Field(QStringLiteral("points"))))},
+                foodId);
+    List2->topLevelItem(List2->topLevelItemCount() - 1)->setData(0, MealRole, meal);
+}
+
 void frmNutrition::addToGrid(Recordset& rs, int offset)
 {
     for (int r = 1; r <= m_rows; ++r) {
@@ -486,13 +499,7 @@ void frmNutrition::LoadTodayFoods()
     UserRS.Open(SqlText);
     while (!UserRS.Eof()) {
         const QString foodId = Str(UserRS.Field(QStringLiteral("Food_ID")));
-        addListLine({foodId, Str(UserRS.Field(QStringLiteral("Name"))),
-                     Str(UserRS.Field(QStringLiteral("amount"))) + QStringLiteral(" ") + Str(UserRS.Field(QStringLiteral("Measure"))),
-                     Num(Val(UserRS.Field(QStringLiteral("calories")))), Num(Val(UserRS.Field(QStringLiteral("protein")))),
-                     Num(Val(UserRS.Field(QStringLiteral("Fat")))), Num(Val(UserRS.Field(QStringLiteral("Carbs")))),
-                     Num(Val(UserRS.Field(QStringLiteral("points"))))},
-                    foodId);
-        List2->topLevelItem(List2->topLevelItemCount() - 1)->setData(0, MealRole, Str(UserRS.Field(QStringLiteral("Meal_ID"))));
+        addListLine(UserRS, foodId, Str(UserRS.Field(QStringLiteral("Name"))), Str(UserRS.Field(QStringLiteral("Meal_ID"))));
         addToGrid(UserRS, daily::DiaryOffset);
         UserRS.MoveNext();
     }
@@ -715,14 +722,7 @@ void frmNutrition::on_cmdAdd_clicked()
             UserRS.Open(SqlText);
             while (!UserRS.Eof()) {
                 const QString id = Str(UserRS.Field(QStringLiteral("Food_ID")));
-                addListLine({id, Str(UserRS.Field(QStringLiteral("Name"))),
-                             Str(UserRS.Field(QStringLiteral("amount"))) + QStringLiteral(" ") +
-                                 Str(UserRS.Field(QStringLiteral("Measure"))),
-                             Num(Val(UserRS.Field(QStringLiteral("calories")))),
-                             Num(Val(UserRS.Field(QStringLiteral("protein")))), Num(Val(UserRS.Field(QStringLiteral("Fat")))),
-                             Num(Val(UserRS.Field(QStringLiteral("Carbs")))), Num(Val(UserRS.Field(QStringLiteral("points"))))},
-                            id);
-                List2->topLevelItem(List2->topLevelItemCount() - 1)->setData(0, MealRole, MealTag());
+                addListLine(UserRS, id, Str(UserRS.Field(QStringLiteral("Name"))), MealTag());
                 addToGrid(UserRS, daily::DiaryOffset);
                 writeDiaryRow(UserRS, 0);
                 added = true;
@@ -738,14 +738,7 @@ void frmNutrition::on_cmdAdd_clicked()
                 return;
             }
             const QString foodName = Str(LibraryRS.Field(QStringLiteral("Name")));
-            addListLine({foodId, foodName,
-                         Str(LibraryRS.Field(QStringLiteral("amount"))) + QStringLiteral(" ") +
-                             Str(LibraryRS.Field(QStringLiteral("Measure"))),
-                         Num(Val(LibraryRS.Field(QStringLiteral("calories")))),
-                         Num(Val(LibraryRS.Field(QStringLiteral("protein")))), Num(Val(LibraryRS.Field(QStringLiteral("Fat")))),
-                         Num(Val(LibraryRS.Field(QStringLiteral("Carbs")))), Num(Val(LibraryRS.Field(QStringLiteral("points"))))},
-                        foodId);
-            List2->topLevelItem(List2->topLevelItemCount() - 1)->setData(0, MealRole, MealTag());
+            addListLine(LibraryRS, foodId, foodName, MealTag());
             addToGrid(LibraryRS, daily::FoodsOffset);
             SqlText = QStringLiteral("delete * from daily_nutrition where User_ID= '") + CurrentUserID +
                       QStringLiteral("' and date =#") + GetLocalDate() + QStringLiteral("# and  meal_id=") + MealTag() +

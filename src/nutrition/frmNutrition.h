@@ -109,6 +109,7 @@ public slots:
 private:
     void buildUi();
     void addListLine(const QStringList& cells, const QString& foodId);
+    void addListLine(const class Recordset& rs, const QString& foodId, const QString& name, const QString& meal);
     // Adds a diary row's (or a library row's) nutrients to the grid's Amount cells, from the
     // given position of grid row 1 on.
     void addToGrid(class Recordset& rs, int offset);
