@@ -1,4 +1,5 @@
 #include "body/frmWeighIn.h"
+#include "core/widgets/Theme.h"
 #include "body/weighincalc.h"
 #include "core/regional.h"
 #include "core/routines.h"
@@ -68,10 +69,7 @@ frmWeighIn::frmWeighIn(QWidget* parent) : QDialog(parent)
     Tab1->addTab(buildWeighInTab(), QStringLiteral("Weigh In"));
     Tab1->addTab(buildPhotoTab(), QStringLiteral("Photo"));
     Tab1->addTab(buildHistoryTab(), QStringLiteral("History"));
-    if (AppColor >= 0) {
-        const QColor c(int(AppColor & 0xFF), int((AppColor >> 8) & 0xFF), int((AppColor >> 16) & 0xFF));
-        Tab1->setStyleSheet(QStringLiteral("QTabBar::tab:selected { background: %1; }").arg(c.name()));
-    }
+    theme::ApplyToTabs(Tab1);
 
     cmdPreviewExercise = new QPushButton(QStringLiteral("&Print"), this);
     cmdPreviewExercise->setObjectName(QStringLiteral("cmdPreviewExercise"));

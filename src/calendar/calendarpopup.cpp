@@ -1,4 +1,5 @@
 #include "calendar/calendarpopup.h"
+#include "core/widgets/Theme.h"
 #include "calendar/calendarstore.h"
 #include "calendar/frmSched2.h"
 #include "core/ini.h"
@@ -90,7 +91,7 @@ void CalendarPopup::itmPaste_Click()
         const QDateTime start(target, s);
         const QDateTime end = (e == QTime(0, 0) && s > e) ? QDateTime(target.addDays(1), e) : QDateTime(target, e);
         const int newId = (s.isValid() && e.isValid())
-                              ? view->AddEntry(start, end, Str(UserRS3.Field(QStringLiteral("Name"))), QString(), AppQColor())
+                              ? view->AddEntry(start, end, Str(UserRS3.Field(QStringLiteral("Name"))), QString(), theme::Color())
                               : 0;
         if (newId == 0) {
             // An entry whose times can't be placed on the day is not copied.

@@ -1,4 +1,5 @@
 #include "calendar/calendarstore.h"
+#include "core/widgets/Theme.h"
 #include "calendar/icons.h"
 #include "calendar/planner.h"
 #include "core/regional.h"
@@ -99,7 +100,7 @@ void LoadDayView(IDayView* view)
     SqlText = QStringLiteral("select * from calendar where date=#") + CalendarDate() + QStringLiteral("# and User_ID='")
               + CurrentUserID + QStringLiteral("'");
     UserRS.Open(SqlText);
-    const QColor colour = AppQColor();
+    const QColor colour = theme::Color();
     while (!UserRS.Eof()) {
         const QTime s = EntryTime(UserRS.Field(QStringLiteral("StartTime")));
         const QTime e = EntryTime(UserRS.Field(QStringLiteral("EndTime")));

@@ -1,4 +1,5 @@
 #include "calendar/frmSched2.h"
+#include "core/widgets/Theme.h"
 #include "core/widgets/Caption.h"
 #include "calendar/calendarpopup.h"
 #include "calendar/calendarstore.h"
@@ -726,11 +727,9 @@ void frmSched2::SetMultiCalendar(bool multi) { CalView->SetMonths(multi ? 2 : 1)
 
 void frmSched2::SetColor()
 {
-    const QColor c = AppQColor();
-    CalView->SetColor(c);
-    DayView->SetColor(c);
-    Tab1->setStyleSheet(QStringLiteral("QTabBar::tab:selected { background: %1; color: %2; }")
-                            .arg(c.name(), c.lightness() > 150 ? QStringLiteral("black") : QStringLiteral("white")));
+    theme::ApplyToCalendar(CalView);
+    DayView->SetColor(theme::Color());
+    theme::ApplyToTabs(Tab1);
     // The day's entries wear the colour too.
     if (!m_loading) Step([this] { LoadDayView(); });
 }

@@ -1,5 +1,4 @@
 #include "calendar/icons.h"
-#include "core/frmMain.h"   // WinColor
 #include "core/shared.h"
 
 #include <QApplication>
@@ -7,8 +6,6 @@
 #include <QPainter>
 #include <QPainterPath>
 #include <QPalette>
-
-QColor AppQColor() { return WinColor(AppColor ? AppColor : DefaultAppColor); }
 
 namespace {
 QPixmap NewIcon()

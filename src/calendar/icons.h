@@ -8,9 +8,6 @@
 
 constexpr int CalendarIconSize = 18;
 
-// AppColor (a Windows colour, 0x00BBGGRR, or a system colour) as a colour.
-QColor AppQColor();
-
 // The exercise icon numbered `image` (above 0).
 QPixmap ExerciseIcon(int image);
 // An appointment's icon by its type: 0 Appointment, 1 Competition, 2 Testing.

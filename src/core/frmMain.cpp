@@ -1,4 +1,5 @@
 #include "core/frmMain.h"
+#include "core/widgets/Theme.h"
 #include "core/frmWebView.h"
 #include "core/ini.h"
 #include "core/plannerlink.h"
@@ -80,7 +81,7 @@ QIcon ButtonIcon(const QString& file, const QString& label)
     pm.fill(Qt::transparent);
     QPainter p(&pm);
     p.setRenderHint(QPainter::Antialiasing);
-    p.setBrush(WinColor(DefaultAppColor));
+    p.setBrush(theme::FromWinColor(DefaultAppColor));
     p.setPen(Qt::NoPen);
     p.drawRoundedRect(QRectF(2, 2, 28, 28), 6, 6);
     p.setPen(Qt::white);
@@ -95,22 +96,6 @@ QIcon ButtonIcon(const QString& file, const QString& label)
 
 int TwipsToPixels(double twips) { return qRound(twips * LogicalDpi() / 1440.0); }
 double PixelsToTwips(int pixels) { return pixels * 1440.0 / LogicalDpi(); }
-
-QColor WinColor(long value)
-{
-    const unsigned long v = static_cast<unsigned long>(value) & 0xFFFFFFFFul;
-    if (v & 0x80000000ul) {
-        // System colours: 1 is the desktop's, which the back colours call Dark Blue.
-        switch (v & 0xFF) {
-        case 1: return QColor(10, 36, 106);
-        case 5: return QColor(Qt::white);
-        case 8: return QColor(Qt::black);
-        case 15: return QColor(212, 208, 200);
-        default: return QColor(128, 128, 128);
-        }
-    }
-    return QColor(int(v & 0xFF), int((v >> 8) & 0xFF), int((v >> 16) & 0xFF));
-}
 
 const QList<frmMain::BackColor>& frmMain::BackColors()
 {
@@ -166,8 +151,7 @@ void frmMain::Form_Load()
     Loading = true;
     setWindowTitle(QStringLiteral("Orvantis"));
 
-    AppColor = static_cast<long>(Val(ReadIni(Window, QStringLiteral("Color"), IniFile)));
-    if (AppColor == 0) AppColor = DefaultAppColor;
+    AppColor = theme::ColorFromSetting(ReadIni(Window, QStringLiteral("Color"), IniFile));
 
     const QString stateText = ReadIni(Window, QStringLiteral("State"), IniFile);
     int state = static_cast<int>(Val(stateText));
@@ -264,7 +248,7 @@ void frmMain::BuildMenus()
     for (const BackColor& c : BackColors()) {
         QAction* a = AddEntry(colors, QString::fromLatin1(c.entry), QString::fromLatin1(c.caption));
         QPixmap swatch(14, 14);
-        swatch.fill(WinColor(c.color));
+        swatch.fill(theme::FromWinColor(c.color));
         a->setIcon(QIcon(swatch));
         const long value = c.color;
         connect(a, &QAction::triggered, this, [this, value] { SetBackColor(value); });

@@ -94,7 +94,5 @@ private:
 int TwipsToPixels(double twips);
 double PixelsToTwips(int pixels);
 
-// A Windows colour value (0x00BBGGRR, or 0x800000nn for a system colour) as a QColor.
-QColor WinColor(long value);
 // Red, green and blue as a Windows colour value.
 constexpr long RGB(int r, int g, int b) { return long(r) + long(g) * 256 + long(b) * 65536; }

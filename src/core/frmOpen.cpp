@@ -1,5 +1,6 @@
 #include "core/frmOpen.h"
 #include "core/frmMain.h"
+#include "core/widgets/Theme.h"
 #include "core/ini.h"
 #include "core/opendatabases.h"
 #include "core/plannerlink.h"
@@ -143,7 +144,7 @@ frmOpen::frmOpen(QWidget* parent) : QDialog(parent)
     // Light text on the window's blue.
     setAutoFillBackground(true);
     QPalette pal = palette();
-    pal.setColor(QPalette::Window, WinColor(DefaultAppColor));
+    pal.setColor(QPalette::Window, theme::FromWinColor(DefaultAppColor));
     pal.setColor(QPalette::WindowText, Qt::white);
     setPalette(pal);
     for (QPushButton* b : {Command1, command3, command4, Command5}) b->setPalette(QApplication::palette());

@@ -1,7 +1,10 @@
 #include "core/ui.h"
 #include "core/regional.h"
 #include "core/routines.h"
+#include "core/shared.h"
 #include "core/store/storeerror.h"
+
+#include <array>
 
 #include <QApplication>
 #include <QComboBox>
@@ -207,13 +210,28 @@ void ShowError(const std::exception& e)
     MsgBox(text, vbCritical, QStringLiteral("Error"));
 }
 
+namespace {
+// The shared recordsets a handler may leave open when it fails half-way.
+std::array<Recordset*, 7> SharedRecordsets()
+{
+    return {&UserRS, &UserRS2, &UserRS3, &UserRS4, &LibraryRS, &LibraryRS2, &LibraryRS3};
+}
+}  // namespace
+
 bool Guard(const std::function<void()>& f)
 {
+    // What was open before the handler stays as it is (an outer walk may still be reading it);
+    // what the handler opened is closed at the error edge, so the next handler can open it.
+    std::array<bool, 7> wasOpen{};
+    const auto shared = SharedRecordsets();
+    for (size_t i = 0; i < shared.size(); ++i) wasOpen[i] = shared[i]->IsOpen();
     try {
         f();
         return true;
     } catch (const std::exception& e) {
-        QApplication::restoreOverrideCursor();
+        for (size_t i = 0; i < shared.size(); ++i)
+            if (!wasOpen[i]) shared[i]->Close();
+        while (QApplication::overrideCursor()) QApplication::restoreOverrideCursor();
         ShowError(e);
     }
     return false;

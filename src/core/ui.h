@@ -74,6 +74,8 @@ bool PrintDialog(QPrinter* printer);
 // guard of their own, so that a failing statement never ends the program.
 void ShowError(const std::exception& e);
 // Runs f; a StoreError or other exception is shown by ShowError and the program goes on.
+// The shared recordsets that f opened and left open are closed, and a wait cursor is taken
+// down, so the next handler starts clean.
 bool Guard(const std::function<void()>& f);
 
 // Puts a window in the middle of the main window; a Left or Top below 0 becomes 0.

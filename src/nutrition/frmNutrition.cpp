@@ -1,4 +1,5 @@
 #include "nutrition/frmNutrition.h"
+#include "core/widgets/Theme.h"
 #include "nutrition/dailynutrition.h"
 #include "nutrition/frmChangeAmt.h"
 #include "nutrition/frmNutSearch.h"
@@ -100,10 +101,7 @@ void frmNutrition::buildUi()
     Tab1 = new QTabBar(this);
     Tab1->setObjectName(QStringLiteral("Tab1"));
     Tab1->setExpanding(false);
-    if (AppColor >= 0) {
-        const QColor c(int(AppColor & 0xFF), int((AppColor >> 8) & 0xFF), int((AppColor >> 16) & 0xFF));
-        Tab1->setStyleSheet(QStringLiteral("QTabBar::tab:selected { background: %1; }").arg(c.name()));
-    }
+    theme::ApplyToTabs(Tab1);
 
     List2 = new QTreeWidget(this);
     List2->setObjectName(QStringLiteral("List2"));

@@ -1,4 +1,5 @@
 #include "core/widgets/MonthCalendar.h"
+#include "core/widgets/Theme.h"
 
 #include <QAbstractItemView>
 #include <QContextMenuEvent>
@@ -294,12 +295,11 @@ void MonthCalendar::SetColor(const QColor& c)
                             "QToolButton#qt_calendar_monthbutton:hover, QToolButton#qt_calendar_yearbutton:hover,"
                             "QToolButton#qt_calendar_monthbutton:pressed, QToolButton#qt_calendar_yearbutton:pressed"
                             " { background-color: %3; border: none; border-radius: 3px; }")
-                            .arg(c.name(), c.lightness() > 150 ? QStringLiteral("black") : QStringLiteral("white"),
-                                 (c.lightness() > 150 ? c.darker(115) : c.lighter(135)).name());
+                            .arg(c.name(), theme::TextOn(c).name(),
+                                 (theme::TextOn(c) == QColor(Qt::black) ? c.darker(115) : c.lighter(135)).name());
     // The day names on a pale tint of the colour, so that red weekend names stay readable.
-    const QColor tint(c.red() / 5 + 204, c.green() / 5 + 204, c.blue() / 5 + 204);
     QTextCharFormat header;
-    header.setBackground(tint);
+    header.setBackground(theme::Tint(c));
     header.setForeground(QColor(30, 30, 30));
     for (MonthCalendarPage* p : m_pages) {
         p->setStyleSheet(css);
