@@ -43,20 +43,23 @@ unknown_of() { comm -23 <(echo "$list") <(echo "$1"); }
 
 # The closure is kept in the build folder, keyed by the list and the state of apt's and dpkg's
 # databases, so a second run costs nothing.
-key=$( { echo "$list"; stat -c '%n %Y' /var/lib/apt/lists/* /var/lib/dpkg/status 2>/dev/null; } | sha256sum | cut -c1-16)
+closure_key() { { echo "$list"; stat -c '%n %Y' /var/lib/apt/lists/* /var/lib/dpkg/status 2>/dev/null; } | sha256sum | cut -c1-16; }
 store=$build/package-closure
-closure_file=$store/$key
+closure_file=$store/$(closure_key)
 if [ -s "$closure_file" ]; then
   closure=$(cat "$closure_file")
 else
-  closure=$(closure_of) || true
+  rc=0; closure=$(closure_of) || rc=$?
+  [ $rc -ne 124 ] || { echo "check_packages: apt-cache took over 120 s; nothing checked" >&2; exit 2; }
   if [ -z "$closure" ] || [ "$(unknown_of "$closure" | wc -l)" -eq "$(echo "$list" | wc -l)" ]; then
     # apt knows none of the list: its package lists were never fetched on this machine.
     SUDO=""
     [ "$(id -u)" -ne 0 ] && SUDO="sudo -n"
     echo "check_packages: apt knows none of the set-up's packages; running apt-get update"
     $SUDO apt-get update -qq </dev/null || { echo "check_packages: apt-get update failed" >&2; exit 2; }
-    closure=$(closure_of) || true
+    closure_file=$store/$(closure_key)
+    rc=0; closure=$(closure_of) || rc=$?
+    [ $rc -ne 124 ] || { echo "check_packages: apt-cache took over 120 s; nothing checked" >&2; exit 2; }
   fi
   [ -n "$closure" ] || { echo "check_packages: apt-cache could not compute the closure of the list" >&2; exit 2; }
   bad=$(unknown_of "$closure")
@@ -66,6 +69,7 @@ else
     exit 1
   fi
   mkdir -p "$store"
+  find "$store" -type f -mmin +1440 -delete 2>/dev/null || true
   tmp=$(mktemp "$store/.tmp.XXXXXX")
   echo "$closure" >"$tmp" && mv -f "$tmp" "$closure_file"
 fi
@@ -115,8 +119,9 @@ while IFS= read -r line; do
   case $dir in /*) ;; *) continue ;; esac
   case $dir in "$build"/*|"$top"/*) continue ;; esac
   [ -d "$dir" ] || continue
-  cfg=$(ls "$dir"/*Config.cmake "$dir"/*-config.cmake 2>/dev/null | head -n 1) || true
-  [ -n "$cfg" ] && use "$cfg" "find_package($name)"
+  for cfg in "$dir"/*Config.cmake "$dir"/*-config.cmake; do
+    [ -e "$cfg" ] && { use "$cfg" "find_package($name)"; break; }
+  done
 done < <(grep -E '^[A-Za-z0-9_.+-]+_DIR:PATH=' "$cache")
 
 # Libraries found by find modules and by pkg-config.
@@ -175,16 +180,18 @@ for i in "${!files[@]}"; do
 done
 declare -A ownerof=()
 ask_dpkg() {
-  local line path pkgs
+  local line path pkgs w
   while IFS= read -r line; do
     case $line in diversion\ *|"") continue ;; esac
-    path=${line##*: }; pkgs=${line%: *}; pkgs=${pkgs//,/ }
-    ownerof[$path]=$(echo $pkgs | sed -E 's/:[a-z0-9]+( |$)/\1/g')
+    path=${line##*: }; pkgs=${line%: *}
+    ownerof[$path]=""
+    for w in ${pkgs//,/ }; do ownerof[$path]+="${w%%:*} "; done
   done < <(printf '%s\n' "$@" | sort -u | xargs -r -d '\n' dpkg-query -S 2>/dev/null || true)
 }
 # Most files are known by their plain path; dpkg's cost grows with the number of paths asked.
 ask_dpkg "${norm[@]}"
 rest=()
+# shellcheck disable=SC2206
 for i in "${!files[@]}"; do [ -n "${ownerof[${norm[$i]}]:-}" ] || rest+=(${cand[$i]}); done
 [ ${#rest[@]} -eq 0 ] || ask_dpkg "${rest[@]}"
 
@@ -217,7 +224,8 @@ if [ ${#unowned[@]} -gt 0 ]; then
 fi
 if [ ${#unresolved[@]} -gt 0 ]; then
   status=1
-  echo "check_packages: FAILED: the build asks for libraries or modules that are not on this machine:"
+  echo "check_packages: FAILED: the build asks for libraries or modules that are not on this machine"
+  echo "(install the Debian package that provides each, and add it to PKGS in scripts/setup.sh):"
   printf '  %s\n' "${unresolved[@]}" | sort -u
 fi
 if [ $status -eq 0 ]; then
