@@ -41,10 +41,14 @@ void OpenDatabases()
         rs->SetActiveConnection(&LibraryConn);
     }
 
-    // The schema adjustments, run on every start whatever the file's state.
-    LibraryConn.Execute(QStringLiteral("ALTER TABLE Workout_exercises ALTER COLUMN weight Double"));
-    UserConn.Execute(QStringLiteral("ALTER TABLE strength_goals ALTER COLUMN weight Double"));
-    UserConn.Execute(QStringLiteral("ALTER TABLE User_Info ALTER COLUMN height Double"));
-    UserConn.Execute(QStringLiteral("ALTER TABLE User_Info ALTER COLUMN currentWeight Double"));
-    UserConn.Execute(QStringLiteral("ALTER TABLE Wellness ALTER COLUMN sleep Double"));
+    // The schema adjustments, run on every start whatever the file's state; a store that is open
+    // read-only (an installed program's folder, a read-only share) is read as it is.
+    if (!LibraryConn.IsReadOnly())
+        LibraryConn.Execute(QStringLiteral("ALTER TABLE Workout_exercises ALTER COLUMN weight Double"));
+    if (!UserConn.IsReadOnly()) {
+        UserConn.Execute(QStringLiteral("ALTER TABLE strength_goals ALTER COLUMN weight Double"));
+        UserConn.Execute(QStringLiteral("ALTER TABLE User_Info ALTER COLUMN height Double"));
+        UserConn.Execute(QStringLiteral("ALTER TABLE User_Info ALTER COLUMN currentWeight Double"));
+        UserConn.Execute(QStringLiteral("ALTER TABLE Wellness ALTER COLUMN sleep Double"));
+    }
 }

@@ -1,4 +1,5 @@
 #include "core/regional.h"
+#include "core/store/datereader.h"
 
 #include <QRegularExpression>
 #include <QStringList>
@@ -576,46 +577,6 @@ QString Apply(const QDate& d, const QTime& t, const QString& picture, const QLoc
 
 // ---------------------------------------------------------------- reading dates
 
-int MonthFromName(const QString& name, const QLocale& l)
-{
-    const QString n = name.trimmed().remove(QLatin1Char('.'));
-    if (n.size() < 3)
-        return 0;
-    for (const QLocale& loc : {l, QLocale(QLocale::C)}) {
-        for (int m = 1; m <= 12; ++m) {
-            const QString full = loc.monthName(m, QLocale::LongFormat);
-            const QString shrt = loc.monthName(m, QLocale::ShortFormat).remove(QLatin1Char('.'));
-            if (n.compare(full, Qt::CaseInsensitive) == 0 || n.compare(shrt, Qt::CaseInsensitive) == 0)
-                return m;
-            if (full.startsWith(n, Qt::CaseInsensitive))
-                return m;  // "Sept"
-        }
-    }
-    return 0;
-}
-
-bool IsDayName(const QString& name, const QLocale& l)
-{
-    const QString n = name.trimmed().remove(QLatin1Char('.'));
-    if (n.size() < 2)
-        return false;
-    for (const QLocale& loc : {l, QLocale(QLocale::C)})
-        for (int d = 1; d <= 7; ++d)
-            if (n.compare(loc.dayName(d, QLocale::LongFormat), Qt::CaseInsensitive) == 0
-                || n.compare(QString(loc.dayName(d, QLocale::ShortFormat)).remove(QLatin1Char('.')),
-                             Qt::CaseInsensitive) == 0)
-                return true;
-    return false;
-}
-
-int FullYear(const QString& y)
-{
-    int year = y.toInt();
-    if (y.size() <= 2)
-        year += year < 30 ? 2000 : 1900;  // two-digit years: 00-29 this century
-    return year;
-}
-
 // The day comes before the month in the locale's short date.
 bool DayFirst(const QLocale& l)
 {
@@ -627,7 +588,18 @@ bool DayFirst(const QLocale& l)
     return d >= 0 && m >= 0 && d < m;
 }
 
-const QString TimeTail = QStringLiteral("(?:[ T]+\\d{1,2}(?::\\d{1,2}){0,2}(?:\\.\\d+)?\\s*(?:[AaPp]\\.?[Mm]?\\.?)?)?");
+
+// What a person types: the locale's order of day and month (a date with dots is day first),
+// its month and day names and AM/PM, its own short and long forms; "13:00 PM" is 13:00.
+datereader::Options TypedOptions(const QLocale& l)
+{
+    datereader::Options o;
+    o.dayFirst = DayFirst(l);
+    o.dotMeansDayFirst = true;
+    o.lenientMeridian = true;
+    o.locale = &l;
+    return o;
+}
 
 }  // namespace
 
@@ -727,97 +699,17 @@ QString FormatDate(const QDate& value, const QString& picture)
 QDate ParseDate(const QString& text)
 {
     const QLocale l = Locale();
-    QString s = text.simplified();
-    if (s.isEmpty())
-        return QDate();
-    // A leading day name ("Monday, November 23, 2026").
-    {
-        static const QRegularExpression dayName(QStringLiteral("^([A-Za-z\\x{80}-\\x{FFFF}]+\\.?),?\\s+(?=\\S)"));
-        const auto m = dayName.match(s);
-        if (m.hasMatch() && IsDayName(m.captured(1), l))
-            s = s.mid(m.capturedLength());
-    }
-    static const QRegularExpression iso(QStringLiteral("^(\\d{4})[-/.](\\d{1,2})[-/.](\\d{1,2})") + TimeTail + QStringLiteral("$"));
-    static const QRegularExpression numeric(QStringLiteral("^(\\d{1,2})([-/.])(\\d{1,2})\\2(\\d{4}|\\d{2})") + TimeTail + QStringLiteral("$"));
-    static const QRegularExpression monthFirst(
-        QStringLiteral("^([^\\d\\s,.-]+)\\.?[\\s-]*(\\d{1,2})(?:st|nd|rd|th)?,?[\\s-]+(\\d{4}|\\d{2})") + TimeTail + QStringLiteral("$"),
-        QRegularExpression::CaseInsensitiveOption);
-    static const QRegularExpression dayFirst(
-        QStringLiteral("^(\\d{1,2})\\.?[\\s-]+([^\\d\\s,.-]+)\\.?,?[\\s-]+(\\d{4}|\\d{2})") + TimeTail + QStringLiteral("$"));
-
-    if (auto m = iso.match(s); m.hasMatch())
-        return QDate(m.captured(1).toInt(), m.captured(2).toInt(), m.captured(3).toInt());
-    if (auto m = numeric.match(s); m.hasMatch()) {
-        int a = m.captured(1).toInt(), b = m.captured(3).toInt();
-        const int year = FullYear(m.captured(4));
-        // "." is a day-first separator wherever it is used; otherwise the locale's order.
-        const bool dayFirstOrder = m.captured(2) == QLatin1String(".") || DayFirst(l);
-        return dayFirstOrder ? QDate(year, b, a) : QDate(year, a, b);
-    }
-    if (auto m = monthFirst.match(s); m.hasMatch()) {
-        const int month = MonthFromName(m.captured(1), l);
-        return month ? QDate(FullYear(m.captured(3)), month, m.captured(2).toInt()) : QDate();
-    }
-    if (auto m = dayFirst.match(s); m.hasMatch()) {
-        const int month = MonthFromName(m.captured(2), l);
-        return month ? QDate(FullYear(m.captured(3)), month, m.captured(1).toInt()) : QDate();
-    }
-    // The locale's own short and long forms.
-    for (const QString& f : {l.dateFormat(QLocale::ShortFormat), l.dateFormat(QLocale::LongFormat)}) {
-        const QDate d = l.toDate(s, f);
-        if (d.isValid())
-            return d;
-    }
-    return QDate();
+    datereader::Result r;
+    if (!datereader::Read(text, TypedOptions(l), r) || !r.hasDate) return QDate();
+    return r.date;
 }
 
 QTime ParseTime(const QString& text)
 {
     const QLocale l = Locale();
-    QString s = text.simplified();
-    if (s.isEmpty())
-        return QTime();
-    // A date in front ("2026-11-23 18:30:00", "11/23/2026 6:00 PM") is passed over.
-    static const QRegularExpression leadingDate(
-        QStringLiteral("^(?:\\d{4}[-/.]\\d{1,2}[-/.]\\d{1,2}|\\d{1,2}([-/.])\\d{1,2}\\1\\d{2,4})[ T]+"));
-    if (auto m = leadingDate.match(s); m.hasMatch())
-        s = s.mid(m.capturedLength());
-    // The designators of the locale are read like AM and PM.
-    const QString am = l.amText(), pm = l.pmText();
-    bool isAm = false, isPm = false;
-    static const QRegularExpression suffix(QStringLiteral("\\s*([AaPp])\\.?\\s*(?:[Mm]\\.?)?$"));
-    if (auto m = suffix.match(s); m.hasMatch() && m.capturedStart() > 0 && s[m.capturedStart() - 1].isDigit()) {
-        (m.captured(1).toLower() == QLatin1String("a") ? isAm : isPm) = true;
-        s.truncate(m.capturedStart());
-    } else if (!am.isEmpty() && s.endsWith(am, Qt::CaseInsensitive) && s.size() > am.size()) {
-        isAm = true;
-        s.chop(am.size());
-    } else if (!pm.isEmpty() && s.endsWith(pm, Qt::CaseInsensitive) && s.size() > pm.size()) {
-        isPm = true;
-        s.chop(pm.size());
-    }
-    s = s.trimmed();
-    static const QRegularExpression clock(QStringLiteral("^(\\d{1,2})(?::(\\d{1,2})(?::(\\d{1,2})(?:\\.(\\d{1,3})\\d*)?)?)?$"));
-    const auto m = clock.match(s);
-    if (!m.hasMatch())
-        return QTime();
-    if (m.captured(2).isEmpty() && !isAm && !isPm)
-        return QTime();  // a bare number is no time
-    int h = m.captured(1).toInt();
-    const int mi = m.captured(2).toInt();
-    const int sec = m.captured(3).toInt();
-    const int ms = m.captured(4).isEmpty() ? 0 : m.captured(4).leftJustified(3, QLatin1Char('0')).toInt();
-    if (isAm || isPm) {
-        if (h > 12 || h < 0)
-            return h <= 23 ? QTime(h, mi, sec, ms) : QTime();
-        if (isAm && h == 12)
-            h = 0;
-        else if (isPm && h < 12)
-            h += 12;
-    }
-    if (h > 23 || mi > 59 || sec > 59)
-        return QTime();
-    return QTime(h, mi, sec, ms);
+    datereader::Result r;
+    if (!datereader::Read(text, TypedOptions(l), r) || !r.hasTime) return QTime();
+    return r.time;
 }
 
 QString ShortDate(const QDate& d)

@@ -8,6 +8,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QRegularExpression>
+#include <QUrl>
 #include <sqlite3.h>
 
 namespace {
@@ -40,6 +41,12 @@ QHash<QString, QString> ParseConnectionString(const QString& text)
     return parts;
 }
 
+StoreError ReadOnlyError(const QString& path)
+{
+    return StoreError(StoreError::ReadOnly,
+                      QStringLiteral("Cannot update. The store '%1' is read-only: changes cannot be saved.").arg(path));
+}
+
 [[noreturn]] void NotAStore(const QString& path)
 {
     throw StoreError(StoreError::NotADatabase, QStringLiteral("Unrecognized database format '%1'.").arg(path));
@@ -53,6 +60,21 @@ bool HasDatabaseHeader(const QString& path)
     if (!f.open(QIODevice::ReadOnly)) return false;
     const QByteArray head = f.read(100);
     return head.size() == 100 && head.startsWith(QByteArray("SQLite format 3\0", 16));
+}
+
+// Opens a store file. Read-only, it is opened as a file that does not change: no journal, no
+// lock files beside it, so a store in a folder that cannot be written reads as any other.
+enum class OpenAs { ReadWrite, Look, ReadOnly };
+int OpenFile(const QString& path, OpenAs as, sqlite3** db)
+{
+    if (as != OpenAs::ReadOnly) {
+        const QByteArray file = QFile::encodeName(path);
+        return sqlite3_open_v2(file.constData(), db,
+                               (as == OpenAs::Look ? SQLITE_OPEN_READONLY : SQLITE_OPEN_READWRITE) | SQLITE_OPEN_NOMUTEX,
+                               nullptr);
+    }
+    const QByteArray uri = QUrl::fromLocalFile(QFileInfo(path).absoluteFilePath()).toEncoded() + "?immutable=1";
+    return sqlite3_open_v2(uri.constData(), db, SQLITE_OPEN_READONLY | SQLITE_OPEN_URI | SQLITE_OPEN_NOMUTEX, nullptr);
 }
 
 QString BaseTypeWord(const QString& declared)
@@ -100,6 +122,23 @@ bool ReplaceColumnDefinition(QString& createSql, const QString& column, const QS
         if (c == u')') --depth;
     }
     return false;
+}
+
+// Indexes on text made before the store folded every letter were ordered by SQLite's own NOCASE,
+// which folds ASCII letters only: they are rebuilt once under the folding collation, and the
+// store keeps a mark (user_version 1) that this was done. Stores made here carry the mark.
+void RebuildFoldedIndexes(sqlite3* db)
+{
+    sqlite3_stmt* stmt = nullptr;
+    int version = 0;
+    if (sqlite3_prepare_v2(db, "PRAGMA user_version", -1, &stmt, nullptr) == SQLITE_OK && sqlite3_step(stmt) == SQLITE_ROW)
+        version = sqlite3_column_int(stmt, 0);
+    sqlite3_finalize(stmt);
+    if (version >= 1) return;
+    // A unique index whose texts differ only in the case of a non-ASCII letter cannot be rebuilt;
+    // the store then stays as it was, and is tried again next time.
+    if (sqlite3_exec(db, "BEGIN; REINDEX NOCASE; PRAGMA user_version = 1; COMMIT", nullptr, nullptr, nullptr) != SQLITE_OK)
+        sqlite3_exec(db, "ROLLBACK", nullptr, nullptr, nullptr);
 }
 
 }  // namespace
@@ -153,7 +192,7 @@ StoreError SqliteFailure(sqlite3* db, int rc, const QString& sql)
     case SQLITE_LOCKED:
         return StoreError(3260, QStringLiteral("Could not update; currently locked."));
     case SQLITE_READONLY:
-        return StoreError(3027, QStringLiteral("Cannot update. Database or object is read-only."));
+        return ReadOnlyError(db ? QString::fromUtf8(sqlite3_db_filename(db, "main")) : QString());
     case SQLITE_NOTADB:
     case SQLITE_CORRUPT:
         return StoreError(StoreError::NotADatabase, QStringLiteral("Unrecognized database format '%1'.")
@@ -181,6 +220,12 @@ ConnectionImpl::~ConnectionImpl()
 void ConnectionImpl::RequireOpen() const
 {
     if (!db) throw StoreError(StoreError::NotOpen, QString::fromLatin1(kClosed));
+}
+
+void ConnectionImpl::RequireWritable() const
+{
+    RequireOpen();
+    if (readOnly) throw ReadOnlyError(path);
 }
 
 void ConnectionImpl::Throw(int rc, const QString& sql) const
@@ -320,6 +365,7 @@ long ConnectionImpl::Execute(const QString& dialectSql)
     RequireOpen();
     const std::shared_ptr<const Translation> t = Translate(dialectSql);
     using K = sqldialect::Statement;
+    if (t->kind != K::Select && t->kind != K::BareTable) RequireWritable();
     switch (t->kind) {
     case K::AlterColumn:
         AlterColumn(*t);
@@ -400,6 +446,8 @@ void ConnectionImpl::AlterColumn(const Translation& t)
         Exec(QStringLiteral("UPDATE %1 SET %2 = %2").arg(writer.Name(info.name), columnName));
         if (own) Exec(QStringLiteral("RELEASE alter_column"));
     } catch (...) {
+        // The schema is never left writable, nor the savepoint open.
+        sqlite3_exec(db, "PRAGMA writable_schema = OFF", nullptr, nullptr, nullptr);
         if (own) {
             sqlite3_exec(db, "ROLLBACK TO alter_column; RELEASE alter_column", nullptr, nullptr, nullptr);
         }
@@ -420,6 +468,7 @@ void ConnectionImpl::Close()
         db = nullptr;
     }
     path.clear();
+    readOnly = false;
     transactionDepth = 0;
     ++schemaGeneration;
 }
@@ -440,12 +489,14 @@ void Connection::Open(const QString& connectionString)
         throw StoreError(StoreError::FileNotFound, QStringLiteral("Could not find file '%1'.").arg(path));
     if (!HasDatabaseHeader(path)) NotAStore(path);
 
+    const bool readOnly = parts.value(QStringLiteral("mode")).compare(u"read", Qt::CaseInsensitive) == 0
+        || MustOpenReadOnly(path);
+
     // Look at the file read-only first: a foreign or broken file is left exactly as it is.
-    const QByteArray file = QFile::encodeName(path);
     sqlite3* db = nullptr;
     QString stored;
     bool readable = false;
-    if (sqlite3_open_v2(file.constData(), &db, SQLITE_OPEN_READONLY | SQLITE_OPEN_NOMUTEX, nullptr) == SQLITE_OK) {
+    if (OpenFile(path, readOnly ? OpenAs::ReadOnly : OpenAs::Look, &db) == SQLITE_OK) {
         sqlite3_stmt* stmt = nullptr;
         if (sqlite3_prepare_v2(db, "SELECT password FROM store_key", -1, &stmt, nullptr) == SQLITE_OK) {
             if (sqlite3_step(stmt) == SQLITE_ROW) {
@@ -460,7 +511,7 @@ void Connection::Open(const QString& connectionString)
     if (!readable) NotAStore(path);
     if (stored != password) throw StoreError(StoreError::InvalidPassword, QStringLiteral("Not a valid password."));
 
-    int rc = sqlite3_open_v2(file.constData(), &db, SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX, nullptr);
+    int rc = OpenFile(path, readOnly ? OpenAs::ReadOnly : OpenAs::ReadWrite, &db);
     if (rc != SQLITE_OK) {
         sqlite3_close_v2(db);
         NotAStore(path);
@@ -469,11 +520,15 @@ void Connection::Open(const QString& connectionString)
     sqlite3_busy_timeout(db, 5000);
     sqlite3_db_config(db, SQLITE_DBCONFIG_DQS_DML, 0, nullptr);
     // Each statement commits on its own: WAL with synchronous=NORMAL makes that cheap and safe.
-    sqlite3_exec(db, "PRAGMA journal_mode = WAL; PRAGMA synchronous = NORMAL; PRAGMA temp_store = MEMORY;", nullptr,
-                 nullptr, nullptr);
+    // A store open read-only keeps its journal as it is: WAL needs files beside the store.
+    if (!readOnly)
+        sqlite3_exec(db, "PRAGMA journal_mode = WAL; PRAGMA synchronous = NORMAL;", nullptr, nullptr, nullptr);
+    sqlite3_exec(db, "PRAGMA temp_store = MEMORY;", nullptr, nullptr, nullptr);
     RegisterSqlFunctions(db);
+    if (!readOnly) RebuildFoldedIndexes(db);
     d->db = db;
     d->path = path;
+    d->readOnly = readOnly;
     d->transactionDepth = 0;
     d->SchemaChanged();
 }
@@ -484,6 +539,13 @@ void Connection::Close()
 }
 
 bool Connection::IsOpen() const { return d->IsOpen(); }
+bool Connection::IsReadOnly() const { return d->IsOpen() && d->readOnly; }
+
+bool Connection::MustOpenReadOnly(const QString& path)
+{
+    const QFileInfo file(path);
+    return !file.isWritable() || !QFileInfo(file.absolutePath()).isWritable();
+}
 QString Connection::Path() const { return d->path; }
 sqlite3* Connection::Handle() const { return d->db; }
 
@@ -506,8 +568,17 @@ void Connection::CommitTrans()
     if (d->transactionDepth == 0)
         throw StoreError(3034, QStringLiteral("You tried to commit or rollback a transaction without first beginning a transaction."));
     --d->transactionDepth;
-    if (d->transactionDepth == 0) d->Exec(QStringLiteral("COMMIT"));
-    else d->Exec(QStringLiteral("RELEASE level%1").arg(d->transactionDepth));
+    try {
+        if (d->transactionDepth == 0) d->Exec(QStringLiteral("COMMIT"));
+        else d->Exec(QStringLiteral("RELEASE level%1").arg(d->transactionDepth));
+    } catch (const StoreError&) {
+        // A commit that fails (a deferred constraint, a lock) leaves the transaction open: it
+        // stays counted, so that the caller's rollback (StoreTransaction's) ends it. Where the
+        // engine has ended it already, nothing is left to end.
+        if (sqlite3_get_autocommit(d->db)) d->transactionDepth = 0;
+        else ++d->transactionDepth;
+        throw;
+    }
 }
 
 void Connection::RollbackTrans()
@@ -559,6 +630,7 @@ void Connection::CreateStore(const QString& path, const QString& schemaSql, cons
         fail(QStringLiteral("start"));
     if (sqlite3_exec(db, schemaSql.toUtf8().constData(), nullptr, nullptr, nullptr) != SQLITE_OK) fail(QStringLiteral("schema"));
     if (sqlite3_exec(db, seedSql.toUtf8().constData(), nullptr, nullptr, nullptr) != SQLITE_OK) fail(QStringLiteral("seed"));
+    if (sqlite3_exec(db, "PRAGMA user_version = 1", nullptr, nullptr, nullptr) != SQLITE_OK) fail(QStringLiteral("key"));
     if (sqlite3_exec(db, "CREATE TABLE store_key (password TEXT)", nullptr, nullptr, nullptr) != SQLITE_OK)
         fail(QStringLiteral("key"));
     sqlite3_stmt* stmt = nullptr;

@@ -11,6 +11,7 @@
 #include <unordered_map>
 #include <vector>
 
+#include "core/store/connection.h"
 #include "core/store/fieldvalue.h"
 #include "core/store/storeerror.h"
 #include "core/store/translation.h"
@@ -136,11 +137,14 @@ public:
 
     sqlite3* db = nullptr;
     QString path;
+    bool readOnly = false;
     int transactionDepth = 0;
     quint64 schemaGeneration = 1;
 
     bool IsOpen() const { return db != nullptr; }
     void RequireOpen() const;
+    // Throws StoreError(ReadOnly) on a store open read-only.
+    void RequireWritable() const;
 
     // The translation of a dialect statement, cached.
     std::shared_ptr<const Translation> Translate(const QString& dialectSql);
@@ -168,6 +172,12 @@ private:
     RecentCache<std::shared_ptr<const Translation>> m_translations;
     RecentCache<CachedStatement> m_statements;
     QHash<QString, std::shared_ptr<TableInfo>> m_tables;
+};
+
+// The inside of a connection, for the store's own classes (Recordset, the test hooks).
+class ConnectionAccess {
+public:
+    static ConnectionImpl* Impl(const Connection& conn) { return conn.d.get(); }
 };
 
 // The store's error for a failure of SQLite.

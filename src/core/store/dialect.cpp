@@ -1,9 +1,11 @@
 #include "core/store/dialect.h"
 
+#include "core/store/datereader.h"
 #include "core/store/storedate.h"
 #include "core/store/storeerror.h"
 
 #include <QHash>
+#include <algorithm>
 
 namespace sqldialect {
 namespace {
@@ -121,6 +123,18 @@ std::vector<Tok> Lex(const QString& sql)
     return out;
 }
 
+// The text between "#"s: the forms a date takes, and eight digits "YYYYMMDD" as the ranges of the
+// print logs write it.
+bool ReadDateLiteral(const QString& text, QDate& d, QTime& t, bool& hasTime)
+{
+    datereader::Result r;
+    if (!datereader::Read(text, datereader::LiteralOptions(), r)) return false;
+    d = r.hasDate ? r.date : storedate::BaseDay();
+    t = r.time;
+    hasTime = r.hasTime;
+    return true;
+}
+
 // ---------------------------------------------------------------------------------------------
 // Words: keyword or name, by where they stand
 
@@ -198,7 +212,7 @@ public:
                 QDate d;
                 QTime tm;
                 bool hasTime = false;
-                if (!storedate::Parse(t.s, d, tm, hasTime)) Fail("Syntax error in date in query expression '%1'.", m_sql);
+                if (!ReadDateLiteral(t.s, d, tm, hasTime)) Fail("Syntax error in date in query expression '%1'.", m_sql);
                 Push(Node::Date, storedate::IsoText(d, tm, hasTime));
                 break;
             }
@@ -315,7 +329,7 @@ private:
             }
             if (w == u"distinctrow") { Keyword("DISTINCT"); return; }
             if (w == u"where" && m_depth == 0) m_seenWhere = true;
-            if (w == u"mod") { Push(Node::Operator, QStringLiteral("%")); return; }
+            if (w == u"mod") { Push(Node::Operator, QStringLiteral("mod")); return; }
             Push(Node::Keyword, w.toUpper());
             return;
         }
@@ -416,6 +430,52 @@ void GroupConcat(std::vector<Node>& seq, const QString& sql)
     }
 }
 
+// The dialect's arithmetic binds "^", unary "-", "*" and "/", then "\", then "mod", then "+" and
+// "-". SQLite has no "\" and gives "%" the rank of "*", so both become nodes with their operands.
+bool IsOperand(const Node& n)
+{
+    switch (n.kind) {
+    case Node::Identifier: case Node::Function: case Node::String: case Node::Number: case Node::Date:
+    case Node::Boolean: case Node::Param: case Node::Group: case Node::Dot: case Node::IntDiv: case Node::Mod:
+        return true;
+    case Node::Keyword: return n.text == u"NULL";
+    default: return false;
+    }
+}
+
+// Whether seq[k] is an operator that binds tighter than the one being grouped: "\" takes
+// "*", "/", "^"; "mod" takes "\" too (already grouped). A "-" or "+" binds tighter only as a sign.
+bool BindsTighter(const std::vector<Node>& seq, size_t k)
+{
+    const Node& n = seq[k];
+    if (IsOperand(n)) return true;
+    if (n.kind != Node::Operator) return false;
+    if (n.text == u"*" || n.text == u"/" || n.text == u"^") return true;
+    if (n.text == u"-" || n.text == u"+") return k == 0 || !(IsOperand(seq[k - 1]));
+    return false;
+}
+
+void GroupArithmetic(std::vector<Node>& seq, const char* op, Node::Kind kind, const QString& sql)
+{
+    for (size_t i = 0; i < seq.size(); ++i) {
+        if (!seq[i].Is(Node::Operator, op)) continue;
+        size_t start = i;
+        while (start > 0 && BindsTighter(seq, start - 1)) --start;
+        size_t end = i + 1;
+        while (end < seq.size() && (end == i + 1 ? BindsTighter(seq, end) || seq[end].Is(Node::Operator, "-")
+                                                 : BindsTighter(seq, end)))
+            ++end;
+        if (start == i || end == i + 1) Fail(kMissingOperator, sql);
+        Node n;
+        n.kind = kind;
+        n.children.push_back(GroupOf(seq.begin() + start, seq.begin() + i));
+        n.children.push_back(GroupOf(seq.begin() + i + 1, seq.begin() + end));
+        seq.erase(seq.begin() + start, seq.begin() + end);
+        seq.insert(seq.begin() + start, std::move(n));
+        i = start;
+    }
+}
+
 // "like" takes * and ? as well as % and _.
 QString LikePattern(const QString& p)
 {
@@ -477,6 +537,8 @@ std::vector<Node> Build(std::vector<Flat>& flat, size_t& i, bool inGroup, const 
         }
     }
     if (inGroup) Fail(kMissingOperator, sql);
+    GroupArithmetic(seq, "\\", Node::IntDiv, sql);
+    GroupArithmetic(seq, "mod", Node::Mod, sql);
     GroupConcat(seq, sql);
     ConvertLike(seq);
     MoveLimit(seq);

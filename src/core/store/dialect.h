@@ -23,13 +23,15 @@ struct Node {
         Number,      // text: as written
         Date,        // text: "YYYY-MM-DD" or "YYYY-MM-DD HH:MM:SS"
         Boolean,     // flag: true or false
-        Operator,    // text: = <> < > <= >= + - * / \ % ^ (also the "*" of "select *")
+        Operator,    // text: = <> < > <= >= + - * / ^ (also the "*" of "select *"); "/" divides as real numbers
         Comma,
         Dot,
         Param,       // ?
         Group,       // children: what stands between "(" and ")"
         Concat,      // the dialect's "&": children are Groups, one per operand; Null counts as ""
-        Limit        // text: the row count of "top n", to be written at the end of its select
+        Limit,       // text: the row count of "top n", to be written at the end of its select
+        IntDiv,      // the dialect's "\": children are two Groups, the operands; whole-number division
+        Mod          // the dialect's "mod": children are two Groups, the operands; the remainder
     };
     Kind kind = Keyword;
     bool flag = false;

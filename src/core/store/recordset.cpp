@@ -263,6 +263,7 @@ public:
         RequireOpen();
         if (mode == Mode::None) return;
         ConnectionImpl* ci = Conn();
+        ci->RequireWritable();
         const auto& w = Writer();
         if (mode == Mode::Edit) {
             QString sql = QStringLiteral("UPDATE ") + w.Name(tr->table) + QStringLiteral(" SET ");
@@ -365,6 +366,7 @@ public:
         if (!OnRow()) NoCurrentRecord();
         if (!updatable) NotUpdatable();
         ConnectionImpl* ci = Conn();
+        ci->RequireWritable();
         const QString sql = QStringLiteral("DELETE FROM ") + Writer().Name(tr->table) + QStringLiteral(" WHERE rowid = ?");
         sqlite3_stmt* st = ci->Prepare(sql).stmt;
         sqlite3_bind_int64(st, 1, rowids[size_t(pos)]);

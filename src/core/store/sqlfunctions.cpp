@@ -2,6 +2,7 @@
 
 #include "core/regional.h"
 #include "core/store/storedate.h"
+#include "core/store/textfold.h"
 #include "core/store/value.h"
 
 #include <QDateTime>
@@ -341,6 +342,37 @@ void PickFinal(sqlite3_context* ctx)
     sqlite3_value_free(p->value);
 }
 
+// The dialect's "\": both sides rounded to whole numbers, the quotient cut to a whole number.
+FN(fnIntDiv)
+{
+    if (AnyNull(argc, argv)) return sqlite3_result_null(ctx);
+    const double a = std::nearbyint(Number(argv[0])), b = std::nearbyint(Number(argv[1]));
+    if (b == 0) return sqlite3_result_null(ctx);   // as "/" gives for a division by zero
+    ResultNumber(ctx, std::trunc(a / b));
+}
+
+// "x like pattern [escape e]" without regard to case for every letter.
+FN(fnLike)
+{
+    if (AnyNull(argc, argv)) return sqlite3_result_null(ctx);
+    char32_t escape = 0;
+    if (argc == 3) {
+        const QString e = Text(argv[2]);
+        if (e.toUcs4().size() != 1) return sqlite3_result_error(ctx, "ESCAPE expression must be a single character", -1);
+        escape = e.toUcs4().front();
+    }
+    const char* pattern = reinterpret_cast<const char*>(sqlite3_value_text(argv[0]));
+    const int plen = sqlite3_value_bytes(argv[0]);
+    const char* text = reinterpret_cast<const char*>(sqlite3_value_text(argv[1]));
+    const int tlen = sqlite3_value_bytes(argv[1]);
+    sqlite3_result_int(ctx, textfold::Like(pattern, plen, text, tlen, escape) ? 1 : 0);
+}
+
+int CompareFolded(void*, int alen, const void* a, int blen, const void* b)
+{
+    return textfold::Compare(static_cast<const char*>(a), alen, static_cast<const char*>(b), blen);
+}
+
 #undef FN
 
 }  // namespace
@@ -368,7 +400,11 @@ void RegisterSqlFunctions(sqlite3* db)
         {"weekday", 2, fnWeekday, true},   {"datepart", 2, fnDatePart, true}, {"datepart", 3, fnDatePart, true},
         {"dateadd", 3, fnDateAdd, true},   {"datediff", 3, fnDateDiff, true}, {"datediff", 4, fnDateDiff, true},
         {"jet_format", 1, fnFormat, true}, {"jet_format", 2, fnFormat, true},
+        {"jet_intdiv", 2, fnIntDiv, true}, {"like", 2, fnLike, true},     {"like", 3, fnLike, true},
     };
+    // Text columns are declared COLLATE NOCASE; the name is taken over so that they compare
+    // every letter without regard to case, in new stores and in those made before.
+    sqlite3_create_collation_v2(db, "NOCASE", SQLITE_UTF8, nullptr, CompareFolded, nullptr);
     for (const Entry& e : entries)
         sqlite3_create_function_v2(db, e.name, e.args, e.deterministic ? flags : SQLITE_UTF8, nullptr, e.fn, nullptr,
                                    nullptr, nullptr);

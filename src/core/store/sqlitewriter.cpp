@@ -108,7 +108,12 @@ public:
             case Node::Number: Word(n.text); break;
             case Node::Date: Space(); Literal(out, n.text); break;
             case Node::Boolean: Word(n.flag ? "-1" : "0"); break;
-            case Node::Operator: Word(n.text == u"\\" ? QStringLiteral("/") : n.text); break;
+            case Node::Operator:
+                // "/" divides as real numbers: the left side, whatever it is, is made real first
+                // ("*" and "/" bind alike, from the left).
+                if (n.text == u"/") Word("* 1.0 /");
+                else Word(n.text);
+                break;
             case Node::Comma: out += u','; break;
             case Node::Dot:
                 if (out.endsWith(u' ')) out.chop(1);
@@ -130,11 +135,36 @@ public:
                 out += u')';
                 break;
             case Node::Limit: Word("LIMIT"); Word(n.text); break;
+            case Node::IntDiv:
+                Word("jet_intdiv(");
+                Seq(n.children[0].children);
+                out += QLatin1String(", ");
+                Seq(n.children[1].children);
+                out += u')';
+                break;
+            case Node::Mod:
+                Operand(n.children[0]);
+                Word("%");
+                Operand(n.children[1]);
+                break;
             }
         }
     }
 
 private:
+    // An operand of "%", in parentheses unless it is one item.
+    void Operand(const Node& g)
+    {
+        if (g.children.size() == 1) {
+            Seq(g.children);
+            return;
+        }
+        Space();
+        out += u'(';
+        Seq(g.children);
+        out += u')';
+    }
+
     const SqliteWriter& m_w;
 };
 

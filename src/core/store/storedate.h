@@ -13,7 +13,7 @@ inline QDate BaseDay() { return QDate(1899, 12, 30); }
 // Reads a date written in any of the forms the system writes: "YYYY-MM-DD", "YYYY/MM/DD",
 // "M/D/YYYY", "MM/DD/YY", "Jan 5, 2024", "5 January 2024", each optionally followed by a time
 // ("10:30", "10:30:15", "6:00 AM"), or a time alone. A month above 12 with a day up to 12 is
-// read the other way round. Returns false for anything else.
+// read the other way round. Returns false for anything else. (datereader with StoreOptions.)
 bool Parse(QStringView text, QDate& date, QTime& time, bool& hasTime);
 
 // Fast path for stored text: exactly "YYYY-MM-DD" or "YYYY-MM-DD HH:MM:SS".

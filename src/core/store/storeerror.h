@@ -31,7 +31,8 @@ public:
         NoSuchTable = 3078,         // a table the statement names is not in the store
         MissingValue = 3061,        // a name in the statement that is no column
         TypeMismatch = 3421,        // a value of the wrong type for a field
-        NullNotAllowed = 3314       // a Null into a field that requires a value
+        NullNotAllowed = 3314,      // a Null into a field that requires a value
+        ReadOnly = 3027             // a change to a store that is open read-only
 
     };
 

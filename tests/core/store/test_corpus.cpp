@@ -10,6 +10,7 @@
 #include "core/store/connection.h"
 #include "core/store/recordset.h"
 #include "core/store/storefiles.h"
+#include "core/store/value.h"
 
 #ifndef ORVANTIS_SOURCE_DIR
 #define ORVANTIS_SOURCE_DIR "."
@@ -22,10 +23,12 @@ struct Block {
     bool user = false;
     bool ok = true;
     QString sql;
+    QString expect;   // "=> a | b": the fields of the first row, as text; empty to check nothing
 };
 
 // Blocks start with "--- <user|library> <ok|fail>"; the lines up to the next header are the
-// statement; lines starting with "#" are comments.
+// statement; lines starting with "#" are comments; a line "=> a | b" gives the fields of the
+// select's first row as text ("& \"\"").
 QList<Block> ReadCorpus(const QString& path, QString& error)
 {
     QList<Block> blocks;
@@ -50,6 +53,10 @@ QList<Block> ReadCorpus(const QString& path, QString& error)
             continue;
         }
         if (line.startsWith(u'#') || line.trimmed().isEmpty() || blocks.isEmpty()) continue;
+        if (line.startsWith(u"=> ")) {
+            blocks.last().expect = line.mid(3);
+            continue;
+        }
         QString& sql = blocks.last().sql;
         if (!sql.isEmpty()) sql += u'\n';
         sql += line;
@@ -58,19 +65,26 @@ QList<Block> ReadCorpus(const QString& path, QString& error)
 }
 
 // A select is opened, walked to its end (every field read) and closed; anything else is executed.
-void RunStatement(Connection& conn, const QString& sql)
+// Returns the fields of a select's first row as text, joined by " | ".
+QString RunStatement(Connection& conn, const QString& sql)
 {
+    QString first;
     if (sql.trimmed().startsWith(u"select", Qt::CaseInsensitive)) {
         Recordset rs(&conn);
         rs.Open(sql);
+        bool firstRow = true;
         while (!rs.Eof()) {
-            for (int i = 0; i < rs.FieldCount(); ++i) rs.Field(i);
+            QStringList fields;
+            for (int i = 0; i < rs.FieldCount(); ++i) fields << Str(rs.Field(i));
+            if (firstRow) first = fields.join(QStringLiteral(" | "));
+            firstRow = false;
             rs.MoveNext();
         }
         rs.Close();
     } else {
         conn.Execute(sql);
     }
+    return first;
 }
 
 TEST(StoreCorpus, EveryStatementRunsOrFailsAsExpected)
@@ -95,8 +109,9 @@ TEST(StoreCorpus, EveryStatementRunsOrFailsAsExpected)
         Connection& conn = b.user ? userConn : libConn;
         QString outcome;
         bool threw = false;
+        QString got;
         try {
-            RunStatement(conn, b.sql);
+            got = RunStatement(conn, b.sql);
         } catch (const StoreError& e) {
             threw = true;
             outcome = QStringLiteral("StoreError %1: %2").arg(e.Number()).arg(e.Description());
@@ -110,6 +125,9 @@ TEST(StoreCorpus, EveryStatementRunsOrFailsAsExpected)
             failures << QStringLiteral("line %1 (%2) should run: %3\n    %4").arg(b.line).arg(b.user ? "user" : "library", outcome, b.sql);
         else if (!b.ok && !threw)
             failures << QStringLiteral("line %1 (%2) should fail but ran:\n    %3").arg(b.line).arg(b.user ? "user" : "library", b.sql);
+        else if (!threw && !b.expect.isEmpty() && got != b.expect)
+            failures << QStringLiteral("line %1 (%2) gave \"%3\", not \"%4\":\n    %5")
+                            .arg(b.line).arg(b.user ? "user" : "library", got, b.expect, b.sql);
     }
     EXPECT_TRUE(failures.isEmpty()) << failures.size() << " of " << blocks.size() << " blocks:\n"
                                     << failures.join(u'\n').toStdString();

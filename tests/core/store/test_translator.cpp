@@ -49,8 +49,12 @@ TEST(Translator, DateLiteralsBecomeIsoText)
         {"select * from t where d=#13/1/2024#", "SELECT * FROM t WHERE d = '2024-01-13'"},   // month and day swapped
         {"select * from t where d=#Jan 5, 2024#", "SELECT * FROM t WHERE d = '2024-01-05'"},
         {"update tmpDate set bmr = 1500 where dateS = #2024-02-29#", "UPDATE tmpDate SET bmr = 1500 WHERE dateS = '2024-02-29'"},
+        // Eight digits, as the print logs write a range.
+        {"select * from t where d between #20261101# and #20261130#",
+         "SELECT * FROM t WHERE d BETWEEN '2026-11-01' AND '2026-11-30'"},
     });
-    EXPECT_EQ(ErrorOf("select * from t where d=#20261101#"), StoreError::SyntaxError);
+    EXPECT_EQ(ErrorOf("select * from t where d=#20261301#"), StoreError::SyntaxError);
+    EXPECT_EQ(ErrorOf("select * from t where d=#2026110#"), StoreError::SyntaxError);
     EXPECT_EQ(ErrorOf("select * from t where d=#2023-02-29#"), StoreError::SyntaxError);
     EXPECT_EQ(ErrorOf("select * from t where d=#2024-01-05"), StoreError::SyntaxError);
 }
