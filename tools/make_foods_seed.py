@@ -9,7 +9,10 @@ The files come with Debian's `gourmand` package, which carries them as data:
     python3 tools/make_foods_seed.py /tmp/gourmand/usr/lib/python3/dist-packages/gourmand/data
 
 The folder given must hold ABBREV.txt, FOOD_DES.txt and WEIGHT.txt (optionally .gz or .bz2).
-It writes data/seed/library_foods.sql and data/seed/library_food_groups.sql.
+It writes data/seed/library_foods.sql, data/seed/library_food_groups.sql and
+data/seed/library_units_household.sql (the `units` rows of the qualified household measures
+the foods use, "cup, diced"). How a food's default serving is chosen: see choose_weight and
+tools/README.md.
 
 The column names of `foods` are read from data/schema/library.sql (by position: 0 Food_ID,
 1 Group_ID, 2 Name, 3 amount, 4 Measure, 5 points, 6 calories, 7.. the 36 nutrients); the
@@ -168,20 +171,25 @@ def unit_names():
 
 
 def unit_rows():
-    """name -> (type, conversion) of the `units` rows seeded beside us."""
+    """name (lower case) -> (name, type, unit_type, conversion) of the `units` rows seeded
+    beside us."""
     path = os.path.join(ROOT, "data", "seed", "library_units.sql")
     if not os.path.exists(path):
         return {}
     rows = {}
-    pat = re.compile(r"\(\s*'((?:[^']|'')*)'\s*,\s*(NULL|'(?:[^']|'')*')\s*,\s*(?:NULL|'(?:[^']|'')*')"
-                     r"\s*,\s*([-0-9.eE]+|NULL)\s*\)", re.I)
+    text = r"NULL|'(?:[^']|'')*'"
+    pat = re.compile(r"\(\s*'((?:[^']|'')*)'\s*,\s*(%s)\s*,\s*(%s)\s*,\s*([-0-9.eE]+|NULL)\s*\)"
+                     % (text, text), re.I)
+
+    def unquote(t):
+        return None if t.upper() == "NULL" else t[1:-1].replace("''", "'")
     for m in pat.finditer(open(path, encoding="utf-8").read()):
-        kind = None if m.group(2).upper() == "NULL" else m.group(2)[1:-1].replace("''", "'")
         try:
-            conv = float(m.group(3))
+            conv = float(m.group(4))
         except ValueError:
             conv = None
-        rows[m.group(1).replace("''", "'").lower()] = (kind, conv)
+        name = m.group(1).replace("''", "'")
+        rows[name.lower()] = (name, unquote(m.group(2)), unquote(m.group(3)), conv)
     return rows
 
 
@@ -193,7 +201,7 @@ def serving(amount, measure, grams, rows):
     source's stated amount disagrees with its own gram weight by more than a tenth ("12 oz,
     serving 2.7 oz" weighing 77 g, "1 oz with bone" weighing 19 g of meat), the gram weight is
     the fact and the amount is recomputed from it."""
-    kind, conv = rows.get(measure.lower(), (None, None))
+    _, kind, _, conv = rows.get(measure.lower(), (None, None, None, None))
     if kind != "weight" or not conv:
         return amount, grams
     if abs(amount * conv - grams) > 0.1 * grams:
@@ -222,26 +230,161 @@ def pick(candidates, units):
     return None
 
 
-def map_measure(desc, units):
-    """A household measure of WEIGHT.txt -> the measure name stored in foods."""
-    d = desc.strip()
-    low = d.lower()
-    key = "fl oz" if low.startswith("fl oz") else re.split(r"[\s,(]", low, 1)[0]
+MEASURE_WIDTH = 30      # characters of foods.Measure
+
+# The default serving is a portion a person eats at one time (see choose_weight).
+PORTION_MIN_G = 10
+PORTION_MAX_G = 350
+PORTION_MAX_KCAL = 600
+RICH_KCAL = 400         # kcal per 100 g from which a food is eaten by the spoonful or ounce
+RICH_MAX_G = 60
+FATS_AND_OILS = "0400"  # eaten by the spoonful whatever their energy
+BIG_PORTION_G = 700     # the most a single item may weigh when a food has nothing lighter
+
+
+def split_measure(desc, units):
+    """A household measure of WEIGHT.txt -> (the `units` row it stands for, or None; the rest of
+    its text): "cup, diced" -> ("cup", "diced"), "cup chopped" -> ("cup", "chopped"),
+    "tablespoon (1 oz)" -> ("tbsp", "(1 oz)"), "spear (about 5\" long)" -> (None, the text)."""
+    d = " ".join(desc.split())
+    d = d.replace("( ", "(").replace(" )", ")")
+    if d.lower().startswith("fl oz"):
+        key, rest = "fl oz", d[5:]
+    else:
+        m = re.match(r"[^\s,(]+", d)
+        if not m:
+            return None, d
+        key, rest = m.group(0).lower(), d[m.end():]
     if key in MEASURE_SYNONYMS:
         unit = pick(MEASURE_SYNONYMS[key], units) if units else MEASURE_SYNONYMS[key][0]
         if unit:
-            return unit
-    return d[:30].rstrip()
+            return unit, rest.strip(" ,")
+    return None, d
 
 
-def choose_weight(weights):
-    """The household serving of a food: a "medium" one if there is one, else the first."""
+# A note that only restates an amount or calls the measure a serving ("cup (8 fl oz)",
+# "tbsp (1/4 cup)", "cup (1 NLEA serving)") is no qualifier: the amount says it already.
+RESTATED = re.compile(r"^,?\s*\(?\s*[0-9/.]+\s*(?:fl oz|cup)\s*\)?\s*$|"
+                      r"\(\s*(?:[1l]\s+)?(?:NLEA\s+)?serving(?:\s+size)?\s*\)", re.I)
+
+
+def balanced(text):
+    return text.count("(") == text.count(")")
+
+
+def qualified(unit, rest):
+    """unit + its qualifier as one measure text that fits foods.Measure: "cup, diced",
+    "cup (8 fl oz)". A qualifier too long is cut after a part that fits ("cup, whole kernels,
+    drained" -> "cup, whole kernels"), and left out when none does."""
+    rest = RESTATED.sub("", rest).strip(" ,")
+    if not rest:
+        return unit
+    parts = rest.split(", ")
+    for n in range(len(parts), 0, -1):
+        q = ", ".join(parts[:n])
+        text = unit + (" " if q.startswith("(") else ", ") + q
+        if len(text) <= MEASURE_WIDTH and balanced(q):
+            return text
+    return unit
+
+
+def map_measure(desc, units, rows):
+    """A household measure of WEIGHT.txt -> the measure name stored in foods.
+
+    A volume keeps the source's qualifier, as it says how the cup or spoon is filled ("cup,
+    diced" and "cup, shredded" of a cheese weigh 132 and 113 g); such a measure gets a `units`
+    row of its own with the factor of its unit (household_unit_rows), so it converts as the
+    plain unit does. A weight is the plain unit: its amount is that of its gram weight (see
+    serving), which a qualifier like "with bone" no longer describes. A count that has a
+    `units` row (medium, slice, serving, ...) is that row, a kind of its own; any other
+    measure keeps the source's text, cut to the column."""
+    unit, rest = split_measure(desc, units)
+    if unit is None:
+        return rest[:MEASURE_WIDTH].rstrip()
+    kind = rows.get(unit.lower(), (None, None))[1]
+    if kind == "volume":
+        return qualified(unit, rest)
+    return unit
+
+
+def measure_kind(desc, units, rows):
+    """The `type` of the units row a household measure stands for (None: a count of its own)."""
+    unit, _ = split_measure(desc, units)
+    if unit is None:
+        return None
+    return rows.get(unit.lower(), (None, None))[1]
+
+
+def portion_rank(desc, units, rows):
+    """How well a measure suits a rich food eaten by the spoonful or ounce, best first: a
+    labelled serving, a count with a units row (slice, piece, medium, ...), tbsp, oz, another
+    count (pat, cookie, ...), any other measure (tsp, cup, ...)."""
+    unit, _ = split_measure(desc, units)
+    if unit is None:
+        return 4
+    kind = rows.get(unit.lower(), (None, None))[1]
+    if kind == "serving":
+        return 0
+    if kind not in ("weight", "volume"):
+        return 1
+    if unit.lower() in ("tbsp", "tablespoon"):
+        return 2
+    if unit.lower() in ("oz", "ounce"):
+        return 3
+    return 5
+
+
+def choose_weight(weights, kcal100, rich, units, rows):
+    """The default serving of a food, a measure of WEIGHT.txt (amount, text, grams, seq), or
+    None when it has none that will do.
+
+    A portion weighs PORTION_MIN_G..PORTION_MAX_G (at most RICH_MAX_G for a rich food: fats
+    and oils, or more than RICH_KCAL a 100 g) and holds at most PORTION_MAX_KCAL. Among the
+    portions, a rich food takes the best by portion_rank ("2 tbsp" of peanut butter, a slice
+    of cheese), any other food a "medium" one, else the first the source lists. Without a
+    portion: a half, quarter or eighth of a weight or volume that makes one (a quarter cup
+    of raw rice), else the heaviest measure under the range (a tablespoon of a spice), else the lightest
+    measure if it is a count of at most BIG_PORTION_G (a restaurant's double burger), else
+    none: the food is served by weight (see FALLBACK_SERVING), not as a whole turkey."""
     if not weights:
         return None
+    high = RICH_MAX_G if rich else PORTION_MAX_G
+
+    def kcal(w):
+        return w[2] * kcal100 / 100.0
+    portions = [w for w in weights
+                if PORTION_MIN_G <= w[2] <= high and kcal(w) <= PORTION_MAX_KCAL]
+    if portions:
+        if rich:
+            return min(portions, key=lambda w: (portion_rank(w[1], units, rows), w[3]))
+        for w in portions:
+            if w[1].lower().startswith("medium"):
+                return w
+        return portions[0]
     for w in weights:
-        if w[1].lower().startswith("medium"):
-            return w
-    return weights[0]
+        if measure_kind(w[1], units, rows) in ("weight", "volume"):
+            for share in (0.5, 0.25, 0.125):
+                part = (w[0] * share, w[1], w[2] * share, w[3])
+                if PORTION_MIN_G <= part[2] <= high and kcal(part) <= PORTION_MAX_KCAL:
+                    return part
+    small = [w for w in weights if w[2] < PORTION_MIN_G]
+    if small:
+        return max(small, key=lambda w: (w[2], -w[3]))
+    lightest = min(weights, key=lambda w: (w[2], w[3]))
+    if lightest[2] <= BIG_PORTION_G and measure_kind(lightest[1], units, rows) != "weight":
+        return lightest
+    return None
+
+
+def household_unit_rows(measures, rows):
+    """`units` rows for the qualified measures in use ({"cup, diced": "cup"}): the type and
+    factor of their unit, so that they convert like it; unit_type "household " + the unit's
+    kind keeps them apart from the plain units in lists built by unit_type."""
+    out = []
+    for text in sorted(measures, key=str.lower):
+        _, kind, _, conv = rows[measures[text].lower()]
+        out.append((text, kind, "household " + kind, conv))
+    return out
 
 
 def number(x):
@@ -306,7 +449,7 @@ def main():
         d = desc.get(ndb)
         name = (d[2] if d and len(d) > 2 and d[2] else row[1]).strip()
         code = d[1] if d else ""
-        foods.append((category_of(code, name), name, ndb, row))
+        foods.append((category_of(code, name), name, ndb, row, code))
     food_cats = sorted({c for (t, c), *_ in foods if t == "Foods"})
     menu_cats = sorted({c for (t, c), *_ in foods if t == "Menus"})
     groups = [(1, " My Favorites", "Foods")]
@@ -369,30 +512,62 @@ def main():
     # can be logged; the names differ, as foods are looked up by name in several places.
     food_id = 0
     by_weight = 0
-    for cat, name, ndb, row in foods:
-        w = choose_weight(weights.get(ndb))
+    household = {}   # qualified measures in use, lower case -> (text, its unit)
+    oz_unit = pick(MEASURE_SYNONYMS["oz"], units) if units else "oz"
+    for cat, name, ndb, row, code in foods:
+        try:
+            kcal100 = float(row[ABBREV_KCAL - 1])
+        except ValueError:
+            kcal100 = 0.0
+        rich = code == FATS_AND_OILS or kcal100 > RICH_KCAL
+        w = choose_weight(weights.get(ndb), kcal100, rich, units, rows_of_units)
         if w:
             amount, measure_desc, grams = w[0], w[1], w[2]
-            measure = map_measure(measure_desc, units)
-            if units and measure not in units:
+            measure = map_measure(measure_desc, units, rows_of_units)
+            unit, _ = split_measure(measure_desc, units)
+            if unit and measure.lower() != unit.lower():
+                # One spelling for all foods: units names are unique whatever their case.
+                measure = household.setdefault(measure.lower(), (measure, unit))[0]
+            elif units and measure not in units:
                 unmapped += 1
             amount, grams = serving(amount, measure, grams, rows_of_units)
+        elif rich and oz_unit:
+            # FALLBACK_SERVING: a rich food by the ounce, any other by 100 g.
+            amount, measure, grams = 1, oz_unit, rows_of_units.get(oz_unit.lower(),
+                                                                  (0, 0, 0, 28.349523125))[3]
         else:
             amount, measure, grams = 100, gram_unit, 100.0
         food_id += 1
         out_rows.append(food_row(food_id, cat, name, row, amount, measure, grams))
-        kind = rows_of_units.get(measure.lower(), (None, None))[0]
+        if measure.lower() in household:
+            kind = measure_kind(household[measure.lower()][1], units, rows_of_units)
+        else:
+            kind = rows_of_units.get(measure.lower(), (None, None))[1]
         if rows_of_units and kind not in ("weight", "volume") and \
                 len(name) + len(BY_WEIGHT) <= 255:
             food_id += 1
             by_weight += 1
             out_rows.append(food_row(food_id, cat, name + BY_WEIGHT, row, 100, gram_unit, 100.0))
 
+    with open(os.path.join(args.out, "library_units_household.sql"), "w", encoding="utf-8") as f:
+        f.write("-- Household measures of the foods library that carry the source's qualifier (\"cup,\n"
+                "-- diced\"): each has the type and factor of its unit, so a portion in it converts as\n"
+                "-- one in the plain unit does. Generated by tools/make_foods_seed.py with\n"
+                "-- library_foods.sql; this file sorts after library_units.sql, so these rows\n"
+                "-- follow the plain units in lists.\n")
+        hh = household_unit_rows({t: u for t, u in household.values()}, rows_of_units)
+        if hh:
+            f.write('INSERT INTO units ("name", "type", "unit_type", "Conversion") VALUES\n')
+            f.write(",\n".join("(%s, %s, %s, %s)" % (sql_text(t), sql_text(k), sql_text(ut), repr(c))
+                                for t, k, ut, c in hh))
+            f.write(";\n")
+
     with open(os.path.join(args.out, "library_foods.sql"), "w", encoding="utf-8") as f:
         f.write(header)
         f.write("-- Each row is one household serving (amount and measure) of a food; the nutrients\n"
                 "-- are the source's figures per 100 g scaled to the serving's weight. Figures the\n"
                 "-- source lacks (caffeine, vitamin D, biotin, chromium, molybdenum, chloride) are 0.\n"
+                "-- The serving is a portion eaten at one time (tools/README.md gives the rule).\n"
                 "-- A serving in a weight unit holds the nutrients of that weight. A food served by\n"
                 "-- count (medium, slice, serving, ...) has a second row, its name + \"%s\", of\n"
                 "-- 100 g, so that a portion of it can be given in grams.\n" % BY_WEIGHT)
@@ -401,8 +576,8 @@ def main():
             f.write(",\n".join(out_rows[i:i + args.batch]))
             f.write(";\n")
     print("make_foods_seed: %d foods in %d categories (%d servings without a units row, "
-          "%d rows by weight for foods served by count)"
-          % (len(out_rows), len(groups), unmapped, by_weight))
+          "%d rows by weight for foods served by count, %d qualified household measures)"
+          % (len(out_rows), len(groups), unmapped, by_weight, len(household)))
 
 
 if __name__ == "__main__":
