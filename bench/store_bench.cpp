@@ -1,4 +1,4 @@
-// The store against raw SQLite doing the same work: walking 10,000 rows (the same columns
+// The store against the raw engine (SQLite's own calls) doing the same work: walking 10,000 rows (the same columns
 // read into the same types), adding 10,000 rows (each committed on its own, as the screens'
 // inserts are), and creating both store files with their seed.
 #include <benchmark/benchmark.h>
@@ -7,14 +7,15 @@
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
-#include <sqlite3.h>
 #include <algorithm>
+#include <memory>
 #include <vector>
 
 #include "core/shared.h"
 #include "core/store/connection.h"
 #include "core/store/recordset.h"
 #include "core/store/storefiles.h"
+#include "core/store/testhooks.h"
 
 namespace {
 
@@ -31,7 +32,7 @@ struct Fixture {
     QTemporaryDir dir;
     QString path;
     Connection conn;
-    sqlite3* raw = nullptr;
+    std::unique_ptr<storetest::RawStore> raw;
     std::vector<QString> names;
     std::vector<QDate> days;
 
@@ -44,16 +45,13 @@ struct Fixture {
                                       "-(i % 2) FROM n;").arg(kRows);
         Connection::CreateStore(path, QString::fromUtf8(kSchema), seed, StorePassword);
         conn.Open(ConnectionString(path));
-        sqlite3_open_v2(QFile::encodeName(path).constData(), &raw, SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX, nullptr);
-        sqlite3_exec(raw, "PRAGMA journal_mode = WAL; PRAGMA synchronous = NORMAL;", nullptr, nullptr, nullptr);
+        raw = std::make_unique<storetest::RawStore>(path);
         for (int i = 0; i < kRows; ++i) {
             names.push_back(QStringLiteral("Added food %1").arg(i));
             days.push_back(QDate(2024, 1, 1).addDays(i % 700));
         }
     }
-    ~Fixture() { sqlite3_close_v2(raw); }
-
-    void EmptyAdded() { sqlite3_exec(raw, "DELETE FROM added", nullptr, nullptr, nullptr); }
+    void EmptyAdded() { raw->Exec("DELETE FROM added"); }
 };
 
 Fixture& F()
@@ -92,29 +90,10 @@ void BM_WalkRecordset(benchmark::State& state)
 void BM_WalkRaw(benchmark::State& state)
 {
     Fixture& f = F();
-    sqlite3_stmt* st = nullptr;
-    sqlite3_prepare_v3(f.raw, "SELECT name, amount, visits, day, flag FROM walk", -1, SQLITE_PREPARE_PERSISTENT, &st, nullptr);
     for (auto _ : state) {
-        long n = 0;
-        while (sqlite3_step(st) == SQLITE_ROW) {
-            QString name = QString::fromUtf8(reinterpret_cast<const char*>(sqlite3_column_text(st, 0)), sqlite3_column_bytes(st, 0));
-            double amount = sqlite3_column_double(st, 1);
-            qlonglong visits = sqlite3_column_int64(st, 2);
-            QDate day = QDate::fromString(
-                QString::fromUtf8(reinterpret_cast<const char*>(sqlite3_column_text(st, 3)), sqlite3_column_bytes(st, 3)),
-                Qt::ISODate);
-            bool flag = sqlite3_column_int64(st, 4) != 0;
-            benchmark::DoNotOptimize(name);
-            benchmark::DoNotOptimize(amount);
-            benchmark::DoNotOptimize(visits);
-            benchmark::DoNotOptimize(day);
-            benchmark::DoNotOptimize(flag);
-            ++n;
-        }
-        sqlite3_reset(st);
+        const long n = f.raw->Walk();
         if (n != kRows) state.SkipWithError("wrong row count");
     }
-    sqlite3_finalize(st);
     state.SetItemsProcessed(state.iterations() * kRows);
 }
 
@@ -144,27 +123,12 @@ void BM_AddRecordset(benchmark::State& state)
 void BM_AddRaw(benchmark::State& state)
 {
     Fixture& f = F();
-    sqlite3_stmt* st = nullptr;
-    sqlite3_prepare_v3(f.raw, "INSERT INTO added (name, amount, visits, day, flag) VALUES (?, ?, ?, ?, ?)", -1,
-                       SQLITE_PREPARE_PERSISTENT, &st, nullptr);
     for (auto _ : state) {
         state.PauseTiming();
         f.EmptyAdded();
         state.ResumeTiming();
-        for (int i = 0; i < kRows; ++i) {
-            const QByteArray name = f.names[size_t(i)].toUtf8();
-            const QByteArray day = f.days[size_t(i)].toString(Qt::ISODate).toUtf8();
-            sqlite3_bind_text(st, 1, name.constData(), int(name.size()), SQLITE_TRANSIENT);
-            sqlite3_bind_double(st, 2, i * 1.25);
-            sqlite3_bind_int64(st, 3, i % 97);
-            sqlite3_bind_text(st, 4, day.constData(), int(day.size()), SQLITE_TRANSIENT);
-            sqlite3_bind_int64(st, 5, (i % 2) == 1 ? -1 : 0);
-            if (sqlite3_step(st) != SQLITE_DONE) state.SkipWithError("insert failed");
-            sqlite3_reset(st);
-            benchmark::DoNotOptimize(sqlite3_last_insert_rowid(f.raw));
-        }
+        f.raw->Add(f.names, f.days);
     }
-    sqlite3_finalize(st);
     state.SetItemsProcessed(state.iterations() * kRows);
 }
 

@@ -3,7 +3,6 @@
 #include <memory>
 #include "core/store/storeerror.h"
 
-struct sqlite3;
 class ConnectionImpl;
 
 // An open store file. SQL is given in the system's dialect and translated before it runs.
@@ -36,9 +35,6 @@ public:
     void BeginTrans();
     void CommitTrans();
     void RollbackTrans();
-
-    sqlite3* Handle() const;
-    ConnectionImpl* Impl() const { return d.get(); }
 
     // Creates a store file from schema and seed SQL (SQLite's own dialect), keeping the
     // password in it. Refuses (StoreError) when the file is already there.

@@ -1,7 +1,6 @@
 #pragma once
-// The inside of a Connection, shared with Recordset: the SQLite handle, the caches of
-// translations and prepared statements, what is known of each table, and the mapping of
-// SQLite's failures onto the store's errors.
+// The inside of a Connection, shared with Recordset: the engine, the caches of translations and
+// prepared statements, and what is known of each table. Nothing here knows which engine it is.
 #include <QHash>
 #include <algorithm>
 #include <QString>
@@ -12,12 +11,10 @@
 #include <vector>
 
 #include "core/store/connection.h"
+#include "core/store/engine.h"
 #include "core/store/fieldvalue.h"
 #include "core/store/storeerror.h"
 #include "core/store/translation.h"
-
-struct sqlite3;
-struct sqlite3_stmt;
 
 // A cache that keeps what was used lately: when the current generation is full it becomes the
 // old one, and what the old one held and was not used again is dropped.
@@ -42,7 +39,7 @@ public:
         if (m_current.size() >= m_capacity) {
             for (auto& e : m_old) m_drop(e.second);
             m_old = std::move(m_current);
-            m_current = {};
+            m_current.clear();
         }
         return &m_current.insert_or_assign(key, std::move(v)).first->second;
     }
@@ -106,7 +103,7 @@ struct RecordLayout {
 };
 
 struct CachedStatement {
-    sqlite3_stmt* stmt = nullptr;
+    std::unique_ptr<storeengine::Statement> stmt;
     std::shared_ptr<const RecordLayout> layout;
     quint64 generation = 0;         // the schema generation the layout belongs to
     qsizetype lastRows = 0;         // rows it gave last time, to make room for as many
@@ -135,27 +132,26 @@ public:
     ConnectionImpl();
     ~ConnectionImpl();
 
-    sqlite3* db = nullptr;
+    std::unique_ptr<storeengine::Engine> engine;
     QString path;
     bool readOnly = false;
     int transactionDepth = 0;
     quint64 schemaGeneration = 1;
 
-    bool IsOpen() const { return db != nullptr; }
+    bool IsOpen() const { return engine->IsOpen(); }
     void RequireOpen() const;
     // Throws StoreError(ReadOnly) on a store open read-only.
     void RequireWritable() const;
 
     // The translation of a dialect statement, cached.
     std::shared_ptr<const Translation> Translate(const QString& dialectSql);
-    // A prepared statement for SQLite text, cached and reset. It stays valid until the next
-    // call of Prepare.
-    // Failures name messageSql (the statement as the screen wrote it) when it is given.
-    CachedStatement& Prepare(const QString& sqliteSql, const QString& messageSql = QString());
-    // Runs a statement on its own (prepared, run and finalized); for DDL and pragmas.
-    void Exec(const QString& sqliteSql);
-    // Steps a prepared statement to its end; throws the store's error on failure.
-    void RunToEnd(sqlite3_stmt* stmt, const QString& sqlForMessage);
+    // A prepared statement of the engine's SQL, cached and reset. It stays valid until the next
+    // call of Prepare. Failures name messageSql (the statement as the screen wrote it) when it is given.
+    CachedStatement& Prepare(const QString& sql, const QString& messageSql = QString());
+    // Runs a statement of the engine's SQL on its own; for DDL and transactions.
+    void Exec(const QString& sql);
+    // Steps a prepared statement to its end and resets it; throws the store's error on failure.
+    void RunToEnd(storeengine::Statement& stmt);
 
     const TableInfo& Table(const QString& name);
     void SchemaChanged();
@@ -164,9 +160,6 @@ public:
     void AlterColumn(const Translation& t);
 
     void Close();
-
-    // SQLite's failure rc on the statement text, as the store's error.
-    [[noreturn]] void Throw(int rc, const QString& sql) const;
 
 private:
     RecentCache<std::shared_ptr<const Translation>> m_translations;
@@ -179,6 +172,3 @@ class ConnectionAccess {
 public:
     static ConnectionImpl* Impl(const Connection& conn) { return conn.d.get(); }
 };
-
-// The store's error for a failure of SQLite.
-StoreError SqliteFailure(sqlite3* db, int rc, const QString& sql);

@@ -9,7 +9,6 @@
 #include <QDateTime>
 #include <cmath>
 #include <cstring>
-#include <sqlite3.h>
 
 namespace fieldvalue {
 namespace {
@@ -30,12 +29,6 @@ QVariant FromSerial(double serial)
 {
     QDateTime dt = storedate::FromSerial(serial);
     return DateValue(dt.date(), dt.time(), true);
-}
-
-QVariant TextValue(sqlite3_stmt* st, int i)
-{
-    const char* s = reinterpret_cast<const char*>(sqlite3_column_text(st, i));
-    return QVariant(QString::fromUtf8(s, sqlite3_column_bytes(st, i)));
 }
 
 qlonglong RoundToLong(double v)
@@ -97,72 +90,6 @@ Kind KindOf(const char* decl)
     return Kind::Any;
 }
 
-QVariant Read(sqlite3_stmt* st, int i, Kind kind)
-{
-    if (kind == Kind::Text) {
-        // Text needs no look at the storage class: a Null gives no text at all.
-        const char* s = reinterpret_cast<const char*>(sqlite3_column_text(st, i));
-        if (!s) return QVariant();
-        return QVariant(QString::fromUtf8(s, sqlite3_column_bytes(st, i)));
-    }
-    const int type = sqlite3_column_type(st, i);
-    if (type == SQLITE_NULL) return QVariant();
-    switch (kind) {
-    case Kind::Text:
-        return TextValue(st, i);
-    case Kind::Bool:
-        if (type == SQLITE_TEXT) return QVariant(Val(TextValue(st, i).toString()) != 0);
-        return QVariant(sqlite3_column_double(st, i) != 0);
-    case Kind::Date: {
-        if (type == SQLITE_INTEGER || type == SQLITE_FLOAT) return FromSerial(sqlite3_column_double(st, i));
-        const char* s = reinterpret_cast<const char*>(sqlite3_column_text(st, i));
-        const int len = sqlite3_column_bytes(st, i);
-        QDate d;
-        QTime t;
-        bool hasTime = false;
-        if (storedate::ParseIso(s, len, d, t, hasTime)) return DateValue(d, t, hasTime);
-        QString text = QString::fromUtf8(s, len);
-        if (storedate::Parse(text, d, t, hasTime)) return DateValue(d, t, hasTime);
-        return QVariant(text);
-    }
-    case Kind::Integer:
-        if (type == SQLITE_INTEGER) return QVariant(qlonglong(sqlite3_column_int64(st, i)));
-        if (type == SQLITE_FLOAT) {
-            double v = sqlite3_column_double(st, i);
-            if (v == std::trunc(v) && std::fabs(v) < 9e15) return QVariant(qlonglong(v));
-            return QVariant(v);
-        }
-        break;
-    case Kind::Real:
-        if (type == SQLITE_INTEGER || type == SQLITE_FLOAT) return QVariant(sqlite3_column_double(st, i));
-        break;
-    case Kind::Blob:
-    case Kind::Any:
-        break;
-    }
-    switch (type) {
-    case SQLITE_INTEGER: return QVariant(qlonglong(sqlite3_column_int64(st, i)));
-    case SQLITE_FLOAT: return QVariant(sqlite3_column_double(st, i));
-    case SQLITE_BLOB: {
-        const char* b = static_cast<const char*>(sqlite3_column_blob(st, i));
-        return QVariant(QByteArray(b, sqlite3_column_bytes(st, i)));
-    }
-    default: {
-        if (kind == Kind::Any) {
-            // An expression over dates (max(date) ...) keeps the date.
-            const char* s = reinterpret_cast<const char*>(sqlite3_column_text(st, i));
-            const int len = sqlite3_column_bytes(st, i);
-            QDate d;
-            QTime t;
-            bool hasTime = false;
-            if ((len == 10 || len == 19) && s[4] == '-' && storedate::ParseIso(s, len, d, t, hasTime))
-                return DateValue(d, t, hasTime);
-        }
-        return TextValue(st, i);
-    }
-    }
-}
-
 QVariant Convert(const QVariant& v, Kind kind)
 {
     if (IsNull(v)) return kind == Kind::Bool ? QVariant(false) : QVariant();
@@ -215,54 +142,6 @@ QVariant Convert(const QVariant& v, Kind kind)
         return v;
     }
     return v;
-}
-
-void Bind(sqlite3_stmt* st, int i, const QVariant& v)
-{
-    switch (v.typeId()) {
-    case QMetaType::UnknownType:
-    case QMetaType::Nullptr:
-        sqlite3_bind_null(st, i);
-        return;
-    case QMetaType::Bool:
-        sqlite3_bind_int64(st, i, v.toBool() ? -1 : 0);
-        return;
-    case QMetaType::Int: case QMetaType::UInt: case QMetaType::LongLong: case QMetaType::Long:
-    case QMetaType::Short: case QMetaType::UShort: case QMetaType::ULong:
-        sqlite3_bind_int64(st, i, v.toLongLong());
-        return;
-    case QMetaType::ULongLong:
-        sqlite3_bind_double(st, i, v.toDouble());
-        return;
-    case QMetaType::Double: case QMetaType::Float:
-        sqlite3_bind_double(st, i, v.toDouble());
-        return;
-    case QMetaType::QDate: {
-        const QByteArray b = storedate::IsoText(v.toDate()).toUtf8();
-        sqlite3_bind_text(st, i, b.constData(), int(b.size()), SQLITE_TRANSIENT);
-        return;
-    }
-    case QMetaType::QDateTime: {
-        const QByteArray b = storedate::IsoText(v.toDateTime()).toUtf8();
-        sqlite3_bind_text(st, i, b.constData(), int(b.size()), SQLITE_TRANSIENT);
-        return;
-    }
-    case QMetaType::QTime: {
-        const QByteArray b = storedate::IsoText(storedate::BaseDay(), v.toTime(), true).toUtf8();
-        sqlite3_bind_text(st, i, b.constData(), int(b.size()), SQLITE_TRANSIENT);
-        return;
-    }
-    case QMetaType::QByteArray: {
-        const QByteArray b = v.toByteArray();
-        sqlite3_bind_blob(st, i, b.constData(), int(b.size()), SQLITE_TRANSIENT);
-        return;
-    }
-    default: {
-        const QByteArray b = v.toString().toUtf8();
-        sqlite3_bind_text(st, i, b.constData(), int(b.size()), SQLITE_TRANSIENT);
-        return;
-    }
-    }
 }
 
 }  // namespace fieldvalue

@@ -4,7 +4,6 @@
 #include "core/store/connectionimpl.h"
 #include "core/store/sqlwriter.h"
 
-#include <sqlite3.h>
 
 namespace {
 
@@ -33,32 +32,21 @@ namespace {
                                     "provider, or of the selected locktype."));
 }
 
-const sqldialect::SqliteWriter& Writer()
-{
-    static const sqldialect::SqliteWriter w;
-    return w;
-}
-
-bool SameName(const char* a, const QString& b)
-{
-    return a && QString::fromUtf8(a).compare(b, Qt::CaseInsensitive) == 0;
-}
-
-std::shared_ptr<const RecordLayout> BuildLayout(sqlite3_stmt* st, const Translation& tr, bool hasRowId)
+std::shared_ptr<const RecordLayout> BuildLayout(const storeengine::Statement& st, const Translation& tr, bool hasRowId)
 {
     auto layout = std::make_shared<RecordLayout>();
     layout->hasRowId = hasRowId;
-    const int n = sqlite3_column_count(st) - (hasRowId ? 1 : 0);
+    const int n = st.ColumnCount() - (hasRowId ? 1 : 0);
     std::vector<QString> tables;
     QHash<QString, int> counts;
     for (int i = 0; i < n; ++i) {
+        const storeengine::ResultColumn rc = st.Column(i);
         RecordLayout::Column c;
-        c.name = QString::fromUtf8(sqlite3_column_name(st, i));
-        c.kind = fieldvalue::KindOf(sqlite3_column_decltype(st, i));
-        const char* table = sqlite3_column_table_name(st, i);
-        const char* origin = sqlite3_column_origin_name(st, i);
-        if (tr.updatable && origin && SameName(table, tr.table)) c.origin = QString::fromUtf8(origin);
-        tables.push_back(table ? QString::fromUtf8(table) : QString());
+        c.name = rc.name;
+        c.kind = rc.declaredType.isEmpty() ? fieldvalue::Kind::Any : fieldvalue::KindOf(rc.declaredType.toUtf8().constData());
+        if (tr.updatable && !rc.origin.isEmpty() && rc.table.compare(tr.table, Qt::CaseInsensitive) == 0)
+            c.origin = rc.origin;
+        tables.push_back(rc.table);
         counts[c.name.toLower()] += 1;
         layout->columns.push_back(std::move(c));
     }
@@ -113,7 +101,7 @@ public:
         if (!conn || !conn->IsOpen())
             throw StoreError(StoreError::NotOpen, QStringLiteral("The connection cannot be used to perform this "
                                                                  "operation. It is either closed or invalid in this context."));
-        return conn->Impl();
+        return ConnectionAccess::Impl(*conn);
     }
     void RequireOpen() const
     {
@@ -144,7 +132,7 @@ public:
     {
         CachedStatement& cs = ci->Prepare(readSql, source);
         if (!cs.layout || cs.generation != ci->schemaGeneration) {
-            cs.layout = BuildLayout(cs.stmt, *tr, updatable);
+            cs.layout = BuildLayout(*cs.stmt, *tr, updatable);
             cs.generation = ci->schemaGeneration;
         }
         layout = cs.layout;
@@ -158,7 +146,7 @@ public:
         ConnectionImpl* ci = Conn();
         const qint64 keep = pending && pos >= 0 && pos < rows ? rowids[size_t(pos)] : -1;
         CachedStatement& cs = Statement(ci);
-        sqlite3_stmt* st = cs.stmt;
+        storeengine::Statement& st = *cs.stmt;
         values.clear();
         rowids.clear();
         deleted.clear();
@@ -168,33 +156,31 @@ public:
         kinds.reserve(size_t(ncols));
         for (const auto& c : layout->columns) kinds.push_back(c.kind);
         qsizetype n = 0;
-        int rc;
         bool checked = false;
-        while ((rc = sqlite3_step(st)) == SQLITE_ROW) {
-            if (!checked) {
-                // SQLite prepares a statement again when the schema changed under it (another
-                // connection's DDL): then its columns may be others than the layout's.
-                checked = true;
-                if (sqlite3_column_count(st) != ncols + (hasRowId ? 1 : 0)) {
-                    cs.layout = BuildLayout(st, *tr, updatable);
-                    cs.generation = ci->schemaGeneration;
-                    layout = cs.layout;
-                    ncols = int(layout->columns.size());
-                    kinds.clear();
-                    for (const auto& c : layout->columns) kinds.push_back(c.kind);
+        try {
+            while (st.Step()) {
+                if (!checked) {
+                    // The engine prepares a statement again when the schema changed under it
+                    // (another connection's DDL): then its columns may be others than the layout's.
+                    checked = true;
+                    if (st.ColumnCount() != ncols + (hasRowId ? 1 : 0)) {
+                        cs.layout = BuildLayout(st, *tr, updatable);
+                        cs.generation = ci->schemaGeneration;
+                        layout = cs.layout;
+                        ncols = int(layout->columns.size());
+                        kinds.clear();
+                        for (const auto& c : layout->columns) kinds.push_back(c.kind);
+                    }
                 }
+                for (int c = 0; c < ncols; ++c) values.push_back(st.Read(c, kinds[size_t(c)]));
+                if (hasRowId) rowids.push_back(st.ReadId(ncols));
+                ++n;
             }
-            for (int c = 0; c < ncols; ++c) values.push_back(fieldvalue::Read(st, c, kinds[size_t(c)]));
-            if (hasRowId) rowids.push_back(sqlite3_column_int64(st, ncols));
-            ++n;
-        }
-        if (rc != SQLITE_DONE) {
-            const StoreError e = SqliteFailure(ci->db, rc, source);
-            sqlite3_reset(st);
+        } catch (...) {
             Reset();
-            throw e;
+            throw;
         }
-        sqlite3_reset(st);
+        st.Reset();
         cs.lastRows = n;
         rows = n;
         live = long(n);
@@ -264,7 +250,7 @@ public:
         if (mode == Mode::None) return;
         ConnectionImpl* ci = Conn();
         ci->RequireWritable();
-        const auto& w = Writer();
+        const auto& w = ci->engine->Writer();
         if (mode == Mode::Edit) {
             QString sql = QStringLiteral("UPDATE ") + w.Name(tr->table) + QStringLiteral(" SET ");
             int params = 0;
@@ -274,14 +260,14 @@ public:
                 sql += w.Name(layout->columns[size_t(c)].origin) + QLatin1String(" = ?");
             }
             if (!params) { mode = Mode::None; return; }
-            sql += QLatin1String(" WHERE rowid = ?");
-            sqlite3_stmt* st = ci->Prepare(sql).stmt;
+            sql += QStringLiteral(" WHERE ") + w.RowIdentity() + QStringLiteral(" = ?");
+            storeengine::Statement& st = *ci->Prepare(sql).stmt;
             int p = 1;
             for (int c = 0; c < ncols; ++c)
-                if (dirty[size_t(c)]) fieldvalue::Bind(st, p++, buffer[size_t(c)]);
-            sqlite3_bind_int64(st, p, rowids[size_t(pos)]);
-            ci->RunToEnd(st, sql);
-            if (sqlite3_changes(ci->db) == 0)
+                if (dirty[size_t(c)]) st.Bind(p++, buffer[size_t(c)]);
+            st.Bind(p, QVariant(qlonglong(rowids[size_t(pos)])));
+            ci->RunToEnd(st);
+            if (ci->engine->Changes() == 0)
                 throw StoreError(3197, QStringLiteral("Row cannot be located for updating. Some values may have been "
                                                       "changed since it was last read."));
             std::move(buffer.begin(), buffer.end(), values.begin() + pos * ncols);
@@ -301,12 +287,12 @@ public:
         }
         sql += params ? QStringLiteral(" (") + names + QStringLiteral(") VALUES (") + marks + u')'
                       : QStringLiteral(" DEFAULT VALUES");
-        sqlite3_stmt* st = ci->Prepare(sql).stmt;
+        storeengine::Statement& st = *ci->Prepare(sql).stmt;
         int p = 1;
         for (int c = 0; c < ncols; ++c)
-            if (dirty[size_t(c)]) fieldvalue::Bind(st, p++, buffer[size_t(c)]);
-        ci->RunToEnd(st, sql);
-        const qint64 rowid = sqlite3_last_insert_rowid(ci->db);
+            if (dirty[size_t(c)]) st.Bind(p++, buffer[size_t(c)]);
+        ci->RunToEnd(st);
+        const qint64 rowid = ci->engine->LastInsertId();
         // The row as stored: what was set, the new autonumber, the defaults of the rest.
         for (int c = 0; c < ncols; ++c) {
             if (dirty[size_t(c)]) continue;
@@ -328,7 +314,7 @@ public:
     // Reads a row that was just added as the store has it, for defaults SQLite computes.
     void ReadBack(ConnectionImpl* ci, qint64 rowid)
     {
-        const auto& w = Writer();
+        const auto& w = ci->engine->Writer();
         QString list;
         std::vector<int> cols;
         for (int c = 0; c < ncols; ++c) {
@@ -340,13 +326,13 @@ public:
         }
         if (cols.empty()) return;
         const QString sql = QStringLiteral("SELECT ") + list + QStringLiteral(" FROM ") + w.Name(tr->table)
-            + QStringLiteral(" WHERE rowid = ?");
-        sqlite3_stmt* st = ci->Prepare(sql).stmt;
-        sqlite3_bind_int64(st, 1, rowid);
-        if (sqlite3_step(st) == SQLITE_ROW)
+            + QStringLiteral(" WHERE ") + w.RowIdentity() + QStringLiteral(" = ?");
+        storeengine::Statement& st = *ci->Prepare(sql).stmt;
+        st.Bind(1, QVariant(qlonglong(rowid)));
+        if (st.Step())
             for (size_t k = 0; k < cols.size(); ++k)
-                buffer[size_t(cols[k])] = fieldvalue::Read(st, int(k), layout->columns[size_t(cols[k])].kind);
-        sqlite3_reset(st);
+                buffer[size_t(cols[k])] = st.Read(int(k), layout->columns[size_t(cols[k])].kind);
+        st.Reset();
     }
 
     void CancelUpdate()
@@ -367,10 +353,12 @@ public:
         if (!updatable) NotUpdatable();
         ConnectionImpl* ci = Conn();
         ci->RequireWritable();
-        const QString sql = QStringLiteral("DELETE FROM ") + Writer().Name(tr->table) + QStringLiteral(" WHERE rowid = ?");
-        sqlite3_stmt* st = ci->Prepare(sql).stmt;
-        sqlite3_bind_int64(st, 1, rowids[size_t(pos)]);
-        ci->RunToEnd(st, sql);
+        const auto& w = ci->engine->Writer();
+        const QString sql = QStringLiteral("DELETE FROM ") + w.Name(tr->table) + QStringLiteral(" WHERE ")
+            + w.RowIdentity() + QStringLiteral(" = ?");
+        storeengine::Statement& st = *ci->Prepare(sql).stmt;
+        st.Bind(1, QVariant(qlonglong(rowids[size_t(pos)])));
+        ci->RunToEnd(st);
         deleted[size_t(pos)] = 1;
         --live;
     }

@@ -21,6 +21,9 @@ public:
     // A name as the engine must see it: quoted where it would be read as grammar.
     virtual QString Name(const QString& name) const = 0;
 
+    // How a statement names one row of a table by the identity the writer gives (rowid for SQLite).
+    virtual QString RowIdentity() const = 0;
+
     static QString RowIdColumn() { return QStringLiteral("__orv_rowid"); }
 };
 
@@ -31,6 +34,7 @@ public:
     QString Write(const Statement& st, bool withRowId) const override;
     QString ColumnType(const ColumnDef& col) const override;
     QString Name(const QString& name) const override;
+    QString RowIdentity() const override { return QStringLiteral("rowid"); }
 };
 
 }  // namespace sqldialect

@@ -36,6 +36,12 @@ public:
 
     };
 
+    // The error of a change to a store that is open read-only.
+    static StoreError ReadOnlyStore(const QString& path)
+    {
+        return StoreError(ReadOnly, QStringLiteral("Cannot update. The store '%1' is read-only: changes cannot be saved.").arg(path));
+    }
+
 private:
     int m_number;
     QString m_text;

@@ -6,6 +6,11 @@
 Translation TranslateForSqlite(const QString& dialectSql)
 {
     static const sqldialect::SqliteWriter writer;
+    return TranslateFor(dialectSql, writer);
+}
+
+Translation TranslateFor(const QString& dialectSql, const sqldialect::SqlWriter& writer)
+{
     sqldialect::Statement st = sqldialect::Read(dialectSql);
     Translation t;
     t.kind = st.kind;

@@ -5,11 +5,11 @@
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
-#include <sqlite3.h>
 
 #include "core/shared.h"
 #include "core/store/connection.h"
 #include "core/store/recordset.h"
+#include "core/store/testhooks.h"
 
 namespace {
 
@@ -59,14 +59,8 @@ protected:
     // The first column of the first row of raw SQLite text, as text.
     QString Raw(const char* sql)
     {
-        sqlite3_stmt* st = nullptr;
-        EXPECT_EQ(sqlite3_prepare_v2(conn.Handle(), sql, -1, &st, nullptr), SQLITE_OK) << sql;
-        QString out = QStringLiteral("<none>");
-        if (st && sqlite3_step(st) == SQLITE_ROW)
-            out = sqlite3_column_type(st, 0) == SQLITE_NULL
-                ? QStringLiteral("<null>")
-                : QString::fromUtf8(reinterpret_cast<const char*>(sqlite3_column_text(st, 0)));
-        sqlite3_finalize(st);
+        const QString out = storetest::Raw(conn, sql);
+        EXPECT_NE(out, u"<error>") << sql;
         return out;
     }
 
@@ -116,10 +110,7 @@ TEST_F(StoreFile, OpeningRefusesMissingForeignAndLockedFiles)
 
     // A database that is not a store (no key) is refused too.
     {
-        sqlite3* db = nullptr;
-        sqlite3_open(QFile::encodeName(Path("plain.db")).constData(), &db);
-        sqlite3_exec(db, "CREATE TABLE x (a)", nullptr, nullptr, nullptr);
-        sqlite3_close(db);
+        storetest::ExecPlain(Path("plain.db"), "CREATE TABLE x (a)");
         EXPECT_EQ(ErrorNumber([&] { c.Open(ConnectionString(Path("plain.db"))); }), StoreError::NotADatabase);
     }
 
@@ -522,11 +513,7 @@ TEST_F(StoreFile, CreatingIsAllOrNothingAndSchemaChangesElsewhereAreSeen)
     EXPECT_EQ(QDir(m_dir.path()).entryList(QDir::Files).filter(QStringLiteral(".creating")).size(), 0);
 
     EXPECT_EQ(Count(QStringLiteral("select * from people")), 3);
-    sqlite3* other = nullptr;
-    sqlite3_open(QFile::encodeName(m_path).constData(), &other);
-    ASSERT_EQ(sqlite3_exec(other, "ALTER TABLE people ADD COLUMN extra TEXT(5) COLLATE NOCASE DEFAULT 'e'", nullptr,
-                           nullptr, nullptr), SQLITE_OK);
-    sqlite3_close(other);
+    ASSERT_TRUE(storetest::ExecPlain(m_path, "ALTER TABLE people ADD COLUMN extra TEXT(5) COLLATE NOCASE DEFAULT 'e'"));
     Recordset rs(&conn);
     rs.Open(QStringLiteral("select * from people"));
     EXPECT_EQ(rs.FieldCount(), 10);
