@@ -16,6 +16,7 @@
 #include <QtCharts/QBarSet>
 #include <QtCharts/QChart>
 #include <QtCharts/QChartView>
+#include <QtCharts/QDateTimeAxis>
 #include <QtCharts/QLegend>
 #include <QtCharts/QLegendMarker>
 #include <QtCharts/QLineSeries>
@@ -24,6 +25,7 @@
 #include <QtCharts/QValueAxis>
 #include <algorithm>
 
+#include "core/regional.h"
 #include "core/ui.h"
 
 // The chart's view: rectangle zoom with the left button, zoom out with the right one, and the
@@ -236,6 +238,7 @@ void Chart::ClearPie()
 void Chart::Clear()
 {
     m_labels.clear();
+    m_times.clear();
     for (auto& s : m_values)
         s.clear();
     m_first = m_count = 0;
@@ -263,6 +266,8 @@ void Chart::AddPoint(const QString& label, const QVector<double>& values)
             s.resize(m_labels.size());
     }
     m_labels << label;
+    if (!m_times.isEmpty())
+        m_times.resize(m_labels.size());   // a point without a time: placed by its label again
     for (int s = 0; s < m_values.size(); ++s)
         m_values[s] << (s < values.size() && std::isfinite(values[s]) ? values[s] : 0.0);
     if (!m_zoomed)
@@ -270,7 +275,39 @@ void Chart::AddPoint(const QString& label, const QVector<double>& values)
     rebuild();
 }
 
+void Chart::AddPoint(const QDateTime& when, const QVector<double>& values, const QString& label)
+{
+    m_times.resize(m_labels.size());
+    m_times << when;
+    AddPoint(label.isEmpty() ? regional::ShortDate(when.date()) : label, values);
+}
+
+void Chart::SetTimedData(const QVector<QDateTime>& times, const QVector<QVector<double>>& series,
+                         const QStringList& labels)
+{
+    QStringList names;
+    for (int i = 0; i < times.size(); ++i)
+        names << (labels.value(i).isEmpty() ? regional::ShortDate(times[i].date()) : labels[i]);
+    m_times = times;
+    setPoints(names, series);
+}
+
+bool Chart::HasTimes() const
+{
+    if (m_times.isEmpty() || m_times.size() != m_labels.size())
+        return false;
+    return std::all_of(m_times.cbegin(), m_times.cend(), [](const QDateTime& t) { return t.isValid(); });
+}
+
+QDateTime Chart::Time(int point) const { return m_times.value(point); }
+
 void Chart::SetData(const QStringList& labels, const QVector<QVector<double>>& series)
+{
+    m_times.clear();
+    setPoints(labels, series);
+}
+
+void Chart::setPoints(const QStringList& labels, const QVector<QVector<double>>& series)
 {
     m_labels = labels;
     while (m_seriesNames.size() < series.size())
@@ -309,20 +346,82 @@ QString Chart::PointText(int series, int point) const
 
 double Chart::dataMin() const
 {
-    double lo = 0;
+    double lo = NAN;
     for (const auto& s : m_values)
         for (int i = m_first; i < m_first + m_count && i < s.size(); ++i)
-            lo = std::min(lo, s[i]);
+            if (!(s[i] >= lo))
+                lo = s[i];
     return lo;
 }
 
 double Chart::dataMax() const
 {
-    double hi = 0;
+    double hi = NAN;
     for (const auto& s : m_values)
         for (int i = m_first; i < m_first + m_count && i < s.size(); ++i)
-            hi = std::max(hi, s[i]);
+            if (!(s[i] <= hi))
+                hi = s[i];
     return hi;
+}
+
+void Chart::FitRange(double lo, double hi, double* min, double* max, int* ticks)
+{
+    if (!std::isfinite(lo) || !std::isfinite(hi)) {
+        *min = 0;
+        *max = 1;
+        *ticks = 2;
+        return;
+    }
+    if (hi < lo)
+        std::swap(lo, hi);
+    const bool positive = lo >= 0;
+    const double span = hi - lo;
+    double a, b;
+    if (span <= std::abs(hi) * 1e-9) {
+        // Equal values: a band of a tenth of the value around them (at least 1 each side).
+        const double pad = std::max(std::abs(lo) * 0.05, 1.0);
+        a = lo - pad;
+        b = hi + pad;
+    } else {
+        a = lo - span * 0.1;
+        b = hi + span * 0.1;
+    }
+    // Round numbers: a step of 1, 2, 2.5 or 5 times a power of ten, about six steps.
+    const double raw = (b - a) / 6.0;
+    const double unit = std::pow(10.0, std::floor(std::log10(raw)));
+    double step = 10 * unit;
+    for (double m : {1.0, 2.0, 2.5, 5.0})
+        if (m * unit >= raw) {
+            step = m * unit;
+            break;
+        }
+    a = std::floor(a / step + 1e-9) * step;
+    b = std::ceil(b / step - 1e-9) * step;
+    if (positive && a < 0)
+        a = 0;
+    *min = a;
+    *max = b;
+    *ticks = int(std::lround((b - a) / step)) + 1;
+}
+
+int Chart::nearestVisible(double x) const
+{
+    if (m_count <= 0)
+        return -1;
+    if (!timeAxis()) {
+        const int local = int(std::floor(x + 0.5));
+        return local >= 0 && local < m_count ? local : -1;
+    }
+    int best = -1;
+    double bestDistance = 0;
+    for (int i = 0; i < m_count; ++i) {
+        const double d = std::abs(double(m_times[m_first + i].toMSecsSinceEpoch()) - x);
+        if (best < 0 || d < bestDistance) {
+            best = i;
+            bestDistance = d;
+        }
+    }
+    return best;
 }
 
 // ---- zoom and pan -------------------------------------------------------------------------
@@ -357,11 +456,27 @@ void Chart::ZoomToRect(const QRectF& rect)
         return;
     const QPointF a = m_view->valueAt(rect.topLeft());
     const QPointF b = m_view->valueAt(rect.bottomRight());
-    // x is the index among the visible points (bars centred on their index).
-    int i1 = int(std::ceil(std::min(a.x(), b.x()) - 0.5));
-    int i2 = int(std::floor(std::max(a.x(), b.x()) + 0.5));
-    i1 = std::max(i1, 0);
-    i2 = std::min(i2, m_count - 1);
+    int i1, i2;
+    if (timeAxis()) {
+        // x is a time: the points inside the rectangle's times.
+        const double x1 = std::min(a.x(), b.x());
+        const double x2 = std::max(a.x(), b.x());
+        i1 = m_count;
+        i2 = -1;
+        for (int i = 0; i < m_count; ++i) {
+            const double t = double(m_times[m_first + i].toMSecsSinceEpoch());
+            if (t >= x1 && t <= x2) {
+                i1 = std::min(i1, i);
+                i2 = std::max(i2, i);
+            }
+        }
+    } else {
+        // x is the index among the visible points (bars centred on their index).
+        i1 = int(std::ceil(std::min(a.x(), b.x()) - 0.5));
+        i2 = int(std::floor(std::max(a.x(), b.x()) + 0.5));
+        i1 = std::max(i1, 0);
+        i2 = std::min(i2, m_count - 1);
+    }
     if (i2 < i1)
         return;
     const double lo = std::min(a.y(), b.y());
@@ -379,8 +494,8 @@ int Chart::PointAt(const QPointF& viewPos, int* series) const
     if (!plot.contains(chartPos))
         return -1;
     const QPointF v = m_view->valueAt(viewPos);
-    const int local = int(std::floor(v.x() + 0.5));
-    if (local < 0 || local >= m_count)
+    const int local = nearestVisible(v.x());
+    if (local < 0)
         return -1;
     const int point = m_first + local;
     int s = 0;
@@ -477,36 +592,65 @@ void Chart::rebuild()
         m_first = 0;
         m_count = m_labels.size();
     }
-    // The axis wants distinct categories: a day that repeats (two sessions) gets invisible
-    // marks to stay apart, and labels are thinned to what the width can show.
     const int width = m_view->width() > 100 ? m_view->width() : 640;
-    const int maxLabels = std::max(2, width / 70);
-    const int step = std::max(1, (m_count + maxLabels - 1) / maxLabels);
-    QStringList cats;
-    QSet<QString> used;
-    for (int i = 0; i < m_count; ++i) {
-        QString t = i % step == 0 ? m_labels.value(m_first + i) : QString();
-        if (t.isEmpty())
-            t = QChar(0x200B);   // the axis takes no empty category
-        while (used.contains(t))
-            t += QChar(0x200B);
-        used.insert(t);
-        cats << t;
+    QAbstractAxis* axX = nullptr;
+    if (timeAxis()) {
+        // Real times: the points stand as far apart as their days.
+        auto* ax = new QDateTimeAxis;
+        QDateTime from = m_times.value(m_first);
+        QDateTime to = m_times.value(m_first + m_count - 1);
+        if (!(from < to)) {
+            from = from.addSecs(-12 * 3600);
+            to = to.addSecs(12 * 3600);
+        }
+        ax->setRange(from, to);
+        ax->setFormat(regional::Locale().dateFormat(QLocale::ShortFormat));
+        ax->setTickCount(std::clamp(width / 90, 2, 12));
+        axX = ax;
+    } else {
+        // The axis wants distinct categories: a day that repeats (two sessions) gets invisible
+        // marks to stay apart, and labels are thinned to what the width can show.
+        const int maxLabels = std::max(2, width / 70);
+        const int step = std::max(1, (m_count + maxLabels - 1) / maxLabels);
+        QStringList cats;
+        QSet<QString> used;
+        for (int i = 0; i < m_count; ++i) {
+            QString t = i % step == 0 ? m_labels.value(m_first + i) : QString();
+            if (t.isEmpty())
+                t = QChar(0x200B);   // the axis takes no empty category
+            while (used.contains(t))
+                t += QChar(0x200B);
+            used.insert(t);
+            cats << t;
+        }
+        auto* ax = new QBarCategoryAxis;
+        ax->append(cats.isEmpty() ? QStringList{QString()} : cats);
+        axX = ax;
     }
-    auto* axX = new QBarCategoryAxis;
-    axX->append(cats.isEmpty() ? QStringList{QString()} : cats);
     if (!m_xTitle.isEmpty())
         axX->setTitleText(m_xTitle);
     auto* axY = new QValueAxis;
     if (!m_yTitle.isEmpty())
         axY->setTitleText(m_yTitle);
-    double lo = std::isfinite(m_low) ? m_low : dataMin();
-    double hi = std::isfinite(m_high) ? m_high : dataMax();
-    if (!(hi > lo))
-        hi = lo + 1;
-    axY->setRange(lo, hi);
-    if (!std::isfinite(m_low) && !std::isfinite(m_high))
-        axY->applyNiceNumbers();
+    const bool fixed = std::isfinite(m_low) || std::isfinite(m_high);
+    if (m_style == Line && !fixed) {
+        double lo = 0, hi = 1;
+        int ticks = 2;
+        FitRange(dataMin(), dataMax(), &lo, &hi, &ticks);
+        axY->setRange(lo, hi);
+        axY->setTickCount(ticks);
+    } else {
+        // Bars stand on 0; a zoomed view shows the values it was given.
+        const double dmin = std::isfinite(dataMin()) ? dataMin() : 0.0;
+        const double dmax = std::isfinite(dataMax()) ? dataMax() : 0.0;
+        double lo = std::isfinite(m_low) ? m_low : (m_style == Line ? dmin : std::min(0.0, dmin));
+        double hi = std::isfinite(m_high) ? m_high : (m_style == Line ? dmax : std::max(0.0, dmax));
+        if (!(hi > lo))
+            hi = lo + 1;
+        axY->setRange(lo, hi);
+        if (!fixed)
+            axY->applyNiceNumbers();
+    }
     c->addAxis(axX, Qt::AlignBottom);
     c->addAxis(axY, Qt::AlignLeft);
     c->legend()->setAlignment(Qt::AlignTop);
@@ -527,8 +671,10 @@ void Chart::rebuild()
             auto* line = new QLineSeries;
             line->setName(m_seriesNames.value(s));
             line->setPointsVisible(m_count <= 60);
+            const bool byTime = timeAxis();
             for (int i = m_first; i < m_first + m_count; ++i)
-                line->append(i - m_first, m_values[s].value(i));
+                line->append(byTime ? double(m_times[i].toMSecsSinceEpoch()) : double(i - m_first),
+                             m_values[s].value(i));
             c->addSeries(line);
             line->attachAxis(axX);
             line->attachAxis(axY);

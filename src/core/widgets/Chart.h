@@ -8,6 +8,13 @@
 //     point with a label on the X axis (the day, "DD-MM-YY"). Fill with Clear(),
 //     SetSeriesNames() and AddPoint(label, {v1, v2}), or SetData(). Labels may repeat (two
 //     sessions on one day are two points); the axis shows as many labels as fit its width.
+//   - Points at real times (AddPoint(when, {v}), SetTimedData(times, series)): a line stands on a
+//     date axis spaced by time, so weigh-ins five and sixteen days apart are drawn so; their
+//     labels are the days in the short date form. Bars stay one category a point.
+//
+// The value axis of a line is fitted to the data: from a tenth of the data's span below its
+// lowest value to a tenth above its highest, on round numbers (a line of equal values gets a
+// band around them; data that never goes below 0 gets no axis below 0). Bars start at 0.
 //
 // Zoom and pan (bar and line): a left-button drag draws a rectangle and zooms to it (the
 // points under it and the value range it spans); the right button zooms out; the scroll bar
@@ -17,6 +24,7 @@
 //
 // Everything the chart shows is kept in the object, so screens and tests read it back:
 // Title(), PieValue(n), PointCount(), Label(i), SeriesValue(s, i), FirstVisible().
+#include <QDateTime>
 #include <QStringList>
 #include <QVector>
 #include <QWidget>
@@ -60,6 +68,12 @@ public:
     // A point: its label and one value per series (missing values count as 0).
     void AddPoint(const QString& label, const QVector<double>& values);
     void SetData(const QStringList& labels, const QVector<QVector<double>>& series);
+    // Points at real times; a label left empty is the short date of the time.
+    void AddPoint(const QDateTime& when, const QVector<double>& values, const QString& label = QString());
+    void SetTimedData(const QVector<QDateTime>& times, const QVector<QVector<double>>& series,
+                      const QStringList& labels = QStringList());
+    bool HasTimes() const;                                 // every point has a valid time
+    QDateTime Time(int point) const;
     int PointCount() const { return m_labels.size(); }
     QString Label(int point) const;                        // point from 0
     double SeriesValue(int series, int point) const;       // series from 0
@@ -88,6 +102,9 @@ public:
 
     // A pie's title as shown in a width: one line, or two broken at the middle blank.
     static QStringList TitleLines(const QString& title, const QFont& font, int width);
+    // The fitted value range of a line over data from lo to hi, and the ticks that fall on
+    // its round numbers.
+    static void FitRange(double lo, double hi, double* min, double* max, int* ticks);
 
     QChartView* View() const;
     QChart* GetChart() const;
@@ -99,10 +116,13 @@ protected:
 private:
     friend class ChartView;
     void rebuild();
+    void setPoints(const QStringList& labels, const QVector<QVector<double>>& series);
     void fitPie();
     void updateScrollBar();
-    double dataMin() const;
+    double dataMin() const;   // of the visible points; NaN when none
     double dataMax() const;
+    bool timeAxis() const { return m_style == Line && HasTimes(); }
+    int nearestVisible(double x) const;   // a visible point by the X axis' value, -1 when none
 
     ChartView* m_view = nullptr;
     QScrollBar* m_scroll = nullptr;
@@ -114,6 +134,7 @@ private:
     QVector<double> m_pieValues;
     QStringList m_seriesNames;
     QStringList m_labels;
+    QVector<QDateTime> m_times;         // one a point, or empty for points by label only
     QVector<QVector<double>> m_values;  // [series][point]
     int m_first = 0;
     int m_count = 0;

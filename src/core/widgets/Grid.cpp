@@ -10,11 +10,10 @@
 #include <QStyledItemDelegate>
 #include <QTextStream>
 #include <cmath>
-#include <map>
-#include <muParser.h>
 #include <xlsxwriter.h>
 
 #include "core/store/value.h"
+#include "core/widgets/GridFormula.h"
 
 namespace {
 
@@ -118,9 +117,11 @@ private:
     Grid* m_grid;
 };
 
-Grid::Grid(QWidget* parent) : QTableWidget(parent)
+Grid::Grid(QWidget* parent)
+    : QTableWidget(parent), m_sheet(std::make_unique<FormulaSheet>([this](int r, int c) { return Value(r, c); }))
 {
     setItemDelegate(new GridDelegate(this));
+    setTabKeyNavigation(false);   // Tab leaves the grid; the arrows move inside
     setSelectionMode(QAbstractItemView::SingleSelection);
     setEditTriggers(QAbstractItemView::DoubleClicked | QAbstractItemView::EditKeyPressed |
                     QAbstractItemView::AnyKeyPressed | QAbstractItemView::SelectedClicked);
@@ -145,7 +146,9 @@ void Grid::SetMaxRows(int rows)
         for (int c = 0; c < columnCount(); ++c)
             ensureItem(r + 1, c + 1);
     --m_updating;
-    Recalc();
+    // New rows are empty, as the cells outside the grid read; dropped ones take their formulas.
+    if (rowCount() < old)
+        rebuildFormulas();
 }
 
 int Grid::MaxRows() const { return rowCount(); }
@@ -159,7 +162,8 @@ void Grid::SetMaxCols(int cols)
         for (int r = 0; r < rowCount(); ++r)
             ensureItem(r + 1, c + 1);
     --m_updating;
-    Recalc();
+    if (columnCount() < old)
+        rebuildFormulas();
 }
 
 int Grid::MaxCols() const { return columnCount(); }
@@ -179,7 +183,7 @@ void Grid::InsertRow(int row)
     for (int c = 0; c < columnCount(); ++c)
         ensureItem(row, c + 1);
     --m_updating;
-    Recalc();
+    rebuildFormulas();
 }
 
 void Grid::DeleteRow(int row)
@@ -189,7 +193,7 @@ void Grid::DeleteRow(int row)
     ++m_updating;
     removeRow(row - 1);
     --m_updating;
-    Recalc();
+    rebuildFormulas();
 }
 
 // ---- headers ------------------------------------------------------------------------------
@@ -252,6 +256,10 @@ void Grid::SetCellType(int row, int col, CellType type)
         it->setData(RoleFormula, QVariant());
     applyType(it, row, col);
     --m_updating;
+    if (type != TypeFormula && m_sheet->Has(row, col)) {
+        m_sheet->Remove(row, col);
+        recompute();
+    }
 }
 
 Grid::CellType Grid::GetCellType(int row, int col) const
@@ -288,7 +296,15 @@ QStringList Grid::ListItems(int row, int col) const
 }
 
 void Grid::SetMaxLength(int col, int chars) { m_maxLength[col] = chars; }
-void Grid::SetDecimals(int col, int decimals) { m_decimals[col] = decimals; }
+void Grid::SetDecimals(int col, int decimals)
+{
+    m_decimals[col] = decimals;
+    ++m_updating;
+    for (FormulaSheet::Key k : m_sheet->Cells())
+        if (FormulaSheet::ColOf(k) == col)
+            showResult(FormulaSheet::RowOf(k), col);
+    --m_updating;
+}
 
 void Grid::applyType(QTableWidgetItem* it, int row, int col)
 {
@@ -360,7 +376,8 @@ void Grid::SetText(int row, int col, const QString& text)
     ++m_updating;
     it->setText(text);
     --m_updating;
-    Recalc();
+    m_sheet->Changed(row, col);
+    recompute();
 }
 
 double Grid::Value(int row, int col) const
@@ -384,11 +401,12 @@ void Grid::SetValue(int row, int col, double value) { SetText(row, col, formatNu
 
 void Grid::ClearCell(int row, int col)
 {
-    if (auto* it = item(row, col)) {
+    if (auto* it = item(row, col); it && GetCellType(row, col) != TypeFormula) {
         ++m_updating;
         it->setText(QString());
         --m_updating;
-        Recalc();
+        m_sheet->Changed(row, col);
+        recompute();
     }
 }
 
@@ -396,10 +414,12 @@ void Grid::ClearColumn(int col)
 {
     ++m_updating;
     for (int r = 1; r <= rowCount(); ++r)
-        if (auto* it = item(r, col); it && GetCellType(r, col) != TypeFormula)
+        if (auto* it = item(r, col); it && GetCellType(r, col) != TypeFormula) {
             it->setText(QString());
+            m_sheet->Changed(r, col);
+        }
     --m_updating;
-    Recalc();
+    recompute();
 }
 
 void Grid::ClearData()
@@ -407,10 +427,12 @@ void Grid::ClearData()
     ++m_updating;
     for (int r = 1; r <= rowCount(); ++r)
         for (int c = 1; c <= columnCount(); ++c)
-            if (auto* it = item(r, c); it && GetCellType(r, c) != TypeFormula)
+            if (auto* it = item(r, c); it && GetCellType(r, c) != TypeFormula) {
                 it->setText(QString());
+                m_sheet->Changed(r, c);
+            }
     --m_updating;
-    Recalc();
+    recompute();
 }
 
 void Grid::SetCellData(int row, int col, const QVariant& data)
@@ -450,7 +472,8 @@ void Grid::SetFormula(int row, int col, const QString& formula)
     }
     applyType(it, row, col);
     --m_updating;
-    Recalc();
+    m_sheet->SetFormula(row, col, f);
+    recompute();
 }
 
 QString Grid::Formula(int row, int col) const
@@ -474,139 +497,64 @@ QString Grid::ColumnLetters(int col)
 
 bool Grid::ParseReference(const QString& ref, int* row, int* col)
 {
-    static const QRegularExpression re(QStringLiteral("^\\$?([A-Za-z]{1,2})\\$?([0-9]+)$"));
-    const auto m = re.match(ref.trimmed());
-    if (!m.hasMatch())
-        return false;
-    int c = 0;
-    for (QChar ch : m.captured(1).toUpper())
-        c = c * 26 + (ch.unicode() - 'A' + 1);
-    const int r = m.captured(2).toInt();
-    if (r < 1)
-        return false;
-    *row = r;
-    *col = c;
-    return true;
+    return FormulaSheet::ParseReference(ref, row, col);
 }
 
 bool Grid::Evaluate(const QString& formula, const std::function<double(int, int)>& cell,
                     double* result, QString* error)
 {
-    QString f = formula.trimmed();
-    if (f.startsWith('='))
-        f.remove(0, 1);
-    // References and ranges become variables "R<row>C<col>"; a range becomes their list.
-    static const QRegularExpression refRe(QStringLiteral(
-        "(?<![A-Za-z0-9_])(\\$?[A-Za-z]{1,2}\\$?[0-9]+)(?:\\s*:\\s*(\\$?[A-Za-z]{1,2}\\$?[0-9]+))?(?![A-Za-z0-9_(])"));
-    std::map<std::string, double> vars;
-    QString out;
-    int last = 0;
-    auto it = refRe.globalMatch(f);
-    while (it.hasNext()) {
-        const auto m = it.next();
-        int r1, c1;
-        if (!ParseReference(m.captured(1), &r1, &c1))
-            continue;
-        int r2 = r1, c2 = c1;
-        if (!m.captured(2).isEmpty() && !ParseReference(m.captured(2), &r2, &c2)) {
-            if (error)
-                *error = QStringLiteral("Bad range ") + m.captured(0);
-            return false;
-        }
-        if (r2 < r1) std::swap(r1, r2);
-        if (c2 < c1) std::swap(c1, c2);
-        if ((r2 - r1 + 1) * (c2 - c1 + 1) > 10000) {
-            if (error)
-                *error = QStringLiteral("Range too large");
-            return false;
-        }
-        QStringList names;
-        for (int r = r1; r <= r2; ++r)
-            for (int c = c1; c <= c2; ++c) {
-                const QString name = QStringLiteral("R%1C%2").arg(r).arg(c);
-                vars.emplace(name.toStdString(), cell(r, c));
-                names << name;
-            }
-        out += f.mid(last, m.capturedStart() - last) + names.join(',');
-        last = m.capturedEnd();
-    }
-    out += f.mid(last);
-    // Function names in any case; "average" as avg.
-    static const QRegularExpression funRe(QStringLiteral("\\b([A-Za-z_][A-Za-z0-9_]*)\\s*\\("));
-    QString src;
-    last = 0;
-    auto fit = funRe.globalMatch(out);
-    while (fit.hasNext()) {
-        const auto m = fit.next();
-        QString name = m.captured(1).toLower();
-        if (name == QLatin1String("average"))
-            name = QStringLiteral("avg");
-        src += out.mid(last, m.capturedStart(1) - last) + name;
-        last = m.capturedEnd(1);
-    }
-    src += out.mid(last);
-
-    try {
-        mu::Parser p;
-        for (auto& [name, value] : vars)
-            p.DefineVar(name, &value);
-        p.SetExpr(src.toStdString());
-        *result = p.Eval();
-        return true;
-    } catch (const mu::Parser::exception_type& e) {
-        if (error)
-            *error = QString::fromStdString(e.GetMsg());
-        return false;
-    }
-}
-
-double Grid::formulaValue(int row, int col, QSet<qint64>& visiting, bool& circular) const
-{
-    auto* it = item(row, col);
-    if (!it)
-        return 0.0;
-    if (GetCellType(row, col) != TypeFormula)
-        return Value(row, col);
-    const qint64 key = (qint64(row) << 32) | quint32(col);
-    if (visiting.contains(key)) {
-        circular = true;
-        return 0.0;
-    }
-    visiting.insert(key);
-    double v = 0;
-    const bool ok = Evaluate(it->data(RoleFormula).toString(),
-                             [&](int r, int c) { return formulaValue(r, c, visiting, circular); }, &v);
-    visiting.remove(key);
-    return ok && std::isfinite(v) ? v : 0.0;
+    return FormulaSheet::Evaluate(formula, cell, result, error);
 }
 
 void Grid::Recalc()
 {
-    if (m_inRecalc)
-        return;
-    m_inRecalc = true;
-    ++m_updating;
-    for (int r = 1; r <= rowCount(); ++r)
-        for (int c = 1; c <= columnCount(); ++c)
-            if (GetCellType(r, c) == TypeFormula)
-                showFormulaResult(r, c);
-    --m_updating;
-    m_inRecalc = false;
+    m_sheet->ChangedAll();
+    recompute();
 }
 
-void Grid::showFormulaResult(int row, int col)
+void Grid::BeginUpdate() { ++m_batch; }
+
+void Grid::EndUpdate()
+{
+    if (m_batch > 0 && --m_batch == 0)
+        recompute();
+}
+
+void Grid::recompute()
+{
+    if (m_batch > 0 || !m_sheet->Pending())
+        return;
+    const QVector<FormulaSheet::Key> done = m_sheet->Recompute();
+    ++m_updating;
+    for (FormulaSheet::Key k : done)
+        showResult(FormulaSheet::RowOf(k), FormulaSheet::ColOf(k));
+    --m_updating;
+}
+
+void Grid::rebuildFormulas()
+{
+    // Formulas travel with their cells; their references stay as written.
+    m_sheet->Clear();
+    for (int r = 1; r <= rowCount(); ++r)
+        for (int c = 1; c <= columnCount(); ++c)
+            if (auto* it = item(r, c)) {
+                const QString f = it->data(RoleFormula).toString();
+                if (!f.isEmpty())
+                    m_sheet->SetFormula(r, c, f);
+            }
+    m_sheet->ChangedAll();
+    recompute();
+}
+
+void Grid::showResult(int row, int col)
 {
     auto* it = item(row, col);
-    if (!it)
+    if (!it || !m_sheet->Has(row, col))
         return;
-    double v = 0;
-    QSet<qint64> visiting{(qint64(row) << 32) | quint32(col)};
-    bool circular = false;
-    bool ok = Evaluate(it->data(RoleFormula).toString(),
-                       [&](int r, int c) { return formulaValue(r, c, visiting, circular); }, &v);
-    ok = ok && !circular;   // a circular reference cannot be computed
+    const bool ok = m_sheet->StateOf(row, col) == FormulaSheet::Ok;
+    const double v = m_sheet->Result(row, col);
     it->setData(RoleError, !ok);
-    it->setData(RoleValue, ok ? v : 0.0);
+    it->setData(RoleValue, v);
     if (!ok)
         it->setText(QStringLiteral("#ERR"));
     else if (!std::isfinite(v))
@@ -638,7 +586,8 @@ void Grid::onItemChanged(QTableWidgetItem* it)
         return;
     const int row = it->row() + 1;
     const int col = it->column() + 1;
-    Recalc();
+    m_sheet->Changed(row, col);
+    recompute();
     emit CellEdited(row, col);
 }
 

@@ -12,9 +12,16 @@
 // time ("hh:mm:ss") and formula. A formula cell shows the value of an expression over other
 // cells of the same grid, in A1 form (column letter, row number: "B1" is row 1 column 2), with
 // + - * / ^, parentheses, ranges ("B1:B3") and the functions sum, avg, min, max (any case).
-// Formulas are recomputed whenever a cell changes. A formula that cannot be read, or that
-// refers to itself through other cells, shows "#ERR"; a division by zero shows nothing. Both
-// count 0 in Value().
+// Each formula is compiled once, when it is set (FormulaSheet, GridFormula.h); a change to a
+// cell recomputes only the formulas that read it, directly or not, each once and after the
+// formulas it reads. A screen filling the grid brackets its changes with BeginUpdate() and
+// EndUpdate(): nothing is recomputed between them, EndUpdate() recomputes what became due.
+// A formula that cannot be read, or that refers to itself through other cells, shows "#ERR";
+// a division by zero shows nothing. Both count 0 in Value().
+//
+// Keys: Tab and Shift+Tab leave the grid for the next or previous control, the arrows move
+// between cells. A grid filled in cell after cell may let Tab move between cells instead
+// (SetTabMovesBetweenCells).
 //
 // Signals use the same numbering: CellEdited(row, col) after the user committed a change in a
 // cell (not after SetText), LeaveCell(row, col, newRow, newCol) when the current cell moves.
@@ -23,6 +30,9 @@
 #include <QSet>
 #include <QStringList>
 #include <functional>
+#include <memory>
+
+class FormulaSheet;
 
 class Grid : public QTableWidget {
     Q_OBJECT
@@ -83,7 +93,13 @@ public:
     void SetFormula(int row, int col, const QString& formula);
     QString Formula(int row, int col) const;
     bool HasFormula(int row, int col) const;
+    // Recomputes every formula.
     void Recalc();
+    // Batches the recomputation while a screen fills the grid; the calls nest.
+    void BeginUpdate();
+    void EndUpdate();
+    // The grid's formulas, compiled, with their dependencies and counts.
+    const FormulaSheet& Formulas() const { return *m_sheet; }
     // Evaluates a formula over a value source; the grid's own evaluator, usable without a grid.
     // Returns false with a reason in error when it cannot be read; a division by zero gives
     // true and a non-finite result.
@@ -104,6 +120,10 @@ public:
     QColor CellBackColor(int row, int col) const;
     void SetGridBackColor(const QColor& back);
     void SetCellToolTip(int row, int col, const QString& tip);
+
+    // Tab between cells rather than out of the grid (off by default).
+    void SetTabMovesBetweenCells(bool on) { setTabKeyNavigation(on); }
+    bool TabMovesBetweenCells() const { return tabKeyNavigation(); }
 
     // The current cell (0, 0 when none).
     int ActiveRow() const;
@@ -131,8 +151,9 @@ private:
     QTableWidgetItem* item(int row, int col) const;   // data cell, created on demand
     QTableWidgetItem* ensureItem(int row, int col);
     void applyType(QTableWidgetItem* it, int row, int col);
-    void showFormulaResult(int row, int col);
-    double formulaValue(int row, int col, QSet<qint64>& visiting, bool& circular) const;
+    void showResult(int row, int col);
+    void recompute();            // what became due, unless a batch is open
+    void rebuildFormulas();      // after rows or columns moved or went
     QString formatNumber(double v, int col) const;
     void onItemChanged(QTableWidgetItem* it);
     void writeLog(const QString& logFile, const QString& line) const;
@@ -145,5 +166,6 @@ private:
     QHash<int, bool> m_rowLocked;
     QColor m_back;
     int m_updating = 0;
-    bool m_inRecalc = false;
+    int m_batch = 0;
+    std::unique_ptr<FormulaSheet> m_sheet;
 };

@@ -11,11 +11,14 @@
 #include <QtCharts/QBarSeries>
 #include <QtCharts/QChart>
 #include <QtCharts/QChartView>
+#include <QtCharts/QDateTimeAxis>
 #include <QtCharts/QLineSeries>
 #include <QtCharts/QPieSeries>
 #include <QtCharts/QPieSlice>
+#include <QtCharts/QValueAxis>
 #include <cmath>
 
+#include "core/regional.h"
 #include "core/widgets/Chart.h"
 #include "fixtures/fixture.h"
 
@@ -197,4 +200,90 @@ TEST(ChartModel, PrintsThroughThePrinterDialog)
     ASSERT_TRUE(pdf.open(QIODevice::ReadOnly));
     EXPECT_TRUE(pdf.read(4) == "%PDF");
     EXPECT_GT(pdf.size(), 1000);
+}
+
+TEST(ChartAxes, DatesSpacedByTimeValuesFittedToTheData)
+{
+    // Weigh-ins on the 9th, 14th and 30th: the gaps on the axis are 5 and 16 days.
+    const QDate first(2026, 3, 9);
+    const QVector<QDateTime> days{QDateTime(first, QTime(7, 0)), QDateTime(first.addDays(5), QTime(7, 0)),
+                                  QDateTime(first.addDays(21), QTime(7, 0))};
+    Chart c;
+    c.resize(800, 500);
+    c.SetStyle(Chart::Line);
+    c.SetSeriesNames({"Weight"});
+    c.SetTimedData(days, {{160, 163, 166}});
+    c.show();
+    QCoreApplication::processEvents();
+    ASSERT_TRUE(c.HasTimes());
+    EXPECT_EQ(c.Label(1), regional::ShortDate(first.addDays(5)));
+    EXPECT_EQ(c.PointText(0, 2), regional::ShortDate(first.addDays(21)) + ": Weight 166");
+    auto* axis = qobject_cast<QDateTimeAxis*>(c.GetChart()->axes(Qt::Horizontal).value(0));
+    ASSERT_TRUE(axis);
+    EXPECT_EQ(axis->min(), days[0]);
+    EXPECT_EQ(axis->max(), days[2]);
+    QChart* chart = c.GetChart();
+    auto at = [&](int i) { return chart->mapToPosition(QPointF(days[i].toMSecsSinceEpoch(), 163)).x(); };
+    EXPECT_NEAR((at(1) - at(0)) / (at(2) - at(1)), 5.0 / 16.0, 0.01);
+
+    // A 6 lb change on 160 lb fills the plot: the range is the data and a tenth of it each
+    // side, on round numbers, not from 0.
+    auto* values = qobject_cast<QValueAxis*>(chart->axes(Qt::Vertical).value(0));
+    ASSERT_TRUE(values);
+    EXPECT_DOUBLE_EQ(values->min(), 158);
+    EXPECT_DOUBLE_EQ(values->max(), 168);
+
+    // The pointer finds the nearest day; a rectangle over the last two days zooms to them.
+    const auto toView = [&](const QPointF& p) { return c.View()->mapFromScene(chart->mapToScene(p)); };
+    EXPECT_EQ(c.PointAt(toView(QPointF(at(1) + 3, chart->plotArea().center().y()))), 1);
+    c.ZoomToRect(QRectF(toView(QPointF(at(1) - 5, chart->plotArea().top() + 2)),
+                        toView(QPointF(at(2) + 5, chart->plotArea().bottom() - 2))));
+    EXPECT_EQ(c.FirstVisible(), 1);
+    EXPECT_EQ(c.VisibleCount(), 2);
+    c.ZoomOut();
+
+    // Points added one at a time keep their times; one without a time goes back to labels.
+    Chart d;
+    d.SetStyle(Chart::Line);
+    d.AddPoint(days[0], {150});
+    d.AddPoint(days[1], {150}, "weigh-in");
+    EXPECT_TRUE(d.HasTimes());
+    EXPECT_EQ(d.Label(1), "weigh-in");
+    values = qobject_cast<QValueAxis*>(d.GetChart()->axes(Qt::Vertical).value(0));
+    ASSERT_TRUE(values);
+    EXPECT_LT(values->min(), 150);                // equal values get a band around them
+    EXPECT_GT(values->max(), 150);
+    EXPECT_GT(values->min(), 100);
+    d.AddPoint("later", {151});
+    EXPECT_FALSE(d.HasTimes());
+    EXPECT_TRUE(qobject_cast<QBarCategoryAxis*>(d.GetChart()->axes(Qt::Horizontal).value(0)));
+
+    // A line by labels is fitted too; bars still stand on 0.
+    Chart e;
+    e.SetStyle(Chart::Line);
+    e.SetData({"a", "b", "c"}, {{160, 163, 166}});
+    values = qobject_cast<QValueAxis*>(e.GetChart()->axes(Qt::Vertical).value(0));
+    ASSERT_TRUE(values);
+    EXPECT_DOUBLE_EQ(values->min(), 158);
+    e.SetStyle(Chart::Bar);
+    values = qobject_cast<QValueAxis*>(e.GetChart()->axes(Qt::Vertical).value(0));
+    ASSERT_TRUE(values);
+    EXPECT_DOUBLE_EQ(values->min(), 0);
+
+    // Round numbers, and no axis below 0 for data that never goes there.
+    double lo = 0, hi = 0;
+    int ticks = 0;
+    Chart::FitRange(2100, 2600, &lo, &hi, &ticks);
+    EXPECT_DOUBLE_EQ(lo, 2000);
+    EXPECT_DOUBLE_EQ(hi, 2700);
+    EXPECT_EQ(ticks, 8);
+    Chart::FitRange(0.5, 10, &lo, &hi, &ticks);
+    EXPECT_DOUBLE_EQ(lo, 0);
+    Chart::FitRange(-3, -1, &lo, &hi, &ticks);
+    EXPECT_LT(lo, -3);
+    EXPECT_GT(hi, -1);
+    EXPECT_LE(hi, 0);
+    Chart::FitRange(0, 0, &lo, &hi, &ticks);
+    EXPECT_DOUBLE_EQ(lo, 0);
+    EXPECT_GT(hi, 0);
 }

@@ -4,10 +4,15 @@
 #include <QFile>
 #include <QProcess>
 #include <QSignalSpy>
+#include <QApplication>
+#include <QLineEdit>
 #include <QTemporaryDir>
+#include <QTest>
+#include <QVBoxLayout>
 #include <cmath>
 
 #include "core/widgets/Grid.h"
+#include "core/widgets/GridFormula.h"
 
 namespace {
 
@@ -106,6 +111,85 @@ TEST(GridFormula, CellsRecomputeOnEveryChange)
     g.SetText(4, 2, "99");
     EXPECT_EQ(g.Text(4, 2), "99");
     EXPECT_EQ(g.Text(1, 3), "198");
+}
+
+TEST(GridFormula, FillInOneBatchEditOnlyWhatDepends)
+{
+    // A column where each row adds 1 to the row above, filled as a screen fills it.
+    const int rows = 200;
+    Grid g;
+    g.SetMaxCols(2);
+    g.BeginUpdate();
+    g.SetMaxRows(rows);
+    for (int r = rows; r >= 2; --r)   // the worst order: readers before what they read
+        g.SetFormula(r, 1, QStringLiteral("A%1+1").arg(r - 1));
+    g.SetText(1, 1, "5");
+    g.SetFormula(1, 2, "sum(A1:A3)");
+    EXPECT_EQ(g.Text(rows, 1), "");                          // nothing computed while filling
+    g.EndUpdate();
+    EXPECT_EQ(g.Text(rows, 1), "204");
+    EXPECT_EQ(g.Text(1, 2), "18");
+    const FormulaSheet& f = g.Formulas();
+    EXPECT_EQ(f.Evaluations(), rows);                        // each formula once
+    EXPECT_EQ(f.Compilations(), rows);
+
+    // An edit of the first cell recomputes its readers once each; an edit elsewhere nothing.
+    g.SetText(1, 1, "10");
+    EXPECT_EQ(g.Text(rows, 1), "209");
+    EXPECT_DOUBLE_EQ(g.Value(100, 1), 109);
+    EXPECT_EQ(f.Evaluations(), 2 * rows);
+    g.SetText(5, 2, "1");
+    EXPECT_EQ(f.Evaluations(), 2 * rows);
+    EXPECT_EQ(f.Compilations(), rows);
+
+    // Decimals set later show at once; inserted and deleted rows keep formulas as written.
+    g.SetDecimals(2, 1);
+    EXPECT_EQ(g.Text(1, 2), "33.0");
+    g.InsertRow(1);
+    EXPECT_EQ(g.Formula(2, 2), "sum(A1:A3)");
+    EXPECT_EQ(g.Text(2, 2), "11.0");                          // A1 empty, A2 = 10, A3 = A1+1
+    g.DeleteRow(1);
+    EXPECT_EQ(g.Text(1, 2), "33.0");
+    EXPECT_EQ(g.Text(rows, 1), "209");
+    g.SetMaxRows(2);                                          // A3 gone: it reads as empty
+    EXPECT_EQ(g.Text(1, 2), "21.0");
+}
+
+TEST(GridKeys, TabLeavesTheGridArrowsMoveInside)
+{
+    QWidget w;
+    auto* lay = new QVBoxLayout(&w);
+    auto* before = new QLineEdit(&w);
+    auto* g = new Grid(&w);
+    auto* after = new QLineEdit(&w);
+    lay->addWidget(before);
+    lay->addWidget(g);
+    lay->addWidget(after);
+    g->SetMaxRows(3);
+    g->SetMaxCols(3);
+    w.show();
+    QApplication::setActiveWindow(&w);
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&w));
+
+    g->setFocus();
+    g->SetActiveCell(1, 1);
+    QTest::keyClick(g, Qt::Key_Down);
+    QTest::keyClick(g, Qt::Key_Right);
+    EXPECT_EQ(g->ActiveRow(), 2);
+    EXPECT_EQ(g->ActiveCol(), 2);
+    EXPECT_FALSE(g->TabMovesBetweenCells());
+    QTest::keyClick(g, Qt::Key_Tab);
+    EXPECT_TRUE(after->hasFocus());
+    g->setFocus();
+    QTest::keyClick(g, Qt::Key_Backtab, Qt::ShiftModifier);
+    EXPECT_TRUE(before->hasFocus());
+
+    // A grid filled in cell after cell may keep Tab for its cells.
+    g->SetTabMovesBetweenCells(true);
+    g->setFocus();
+    QTest::keyClick(g, Qt::Key_Tab);
+    EXPECT_TRUE(g->hasFocus());
+    EXPECT_EQ(g->ActiveCol(), 3);
 }
 
 TEST(GridCells, TypesHeadersLocksAndEdits)
