@@ -3,9 +3,13 @@
 #include "body/weighincalc.h"
 #include "core/regional.h"
 #include "core/routines.h"
+#include "core/rows.h"
+#include "core/store/transaction.h"
 #include "core/shared.h"
 #include "core/ui.h"
 #include "core/widgets/Chart.h"
+#include "core/widgets/Form.h"
+#include "core/widgets/ListFill.h"
 
 #include <QtCharts/QAbstractAxis>
 #include <QtCharts/QChart>
@@ -22,8 +26,12 @@
 #include <QListWidget>
 #include <QPixmap>
 #include <QPushButton>
+#include <QScopedValueRollback>
+#include <QScrollArea>
 #include <QTabWidget>
 #include <QVBoxLayout>
+
+#include <memory>
 
 std::function<void(const QString& date)>& ReportWeighInLink()
 {
@@ -62,11 +70,17 @@ frmWeighIn::frmWeighIn(QWidget* parent) : QDialog(parent)
 {
     setObjectName(QStringLiteral("frmWeighIn"));
     setWindowTitle(QStringLiteral("Weigh In"));
-    m_loading = true;
+    auto loading = std::make_unique<QScopedValueRollback<bool>>(m_loading, true);
 
     Tab1 = new QTabWidget(this);
     Tab1->setObjectName(QStringLiteral("Tab1"));
-    Tab1->addTab(buildWeighInTab(), QStringLiteral("Weigh In"));
+    // The figures are many: their tab scrolls when the window is made small.
+    auto* figures = new QScrollArea(this);
+    figures->setObjectName(QStringLiteral("scrWeighIn"));
+    figures->setWidgetResizable(true);
+    figures->setFrameShape(QFrame::NoFrame);
+    figures->setWidget(buildWeighInTab());
+    Tab1->addTab(figures, QStringLiteral("Weigh In"));
     Tab1->addTab(buildPhotoTab(), QStringLiteral("Photo"));
     Tab1->addTab(buildHistoryTab(), QStringLiteral("History"));
     theme::ApplyToTabs(Tab1);
@@ -114,7 +128,7 @@ frmWeighIn::frmWeighIn(QWidget* parent) : QDialog(parent)
     });
     const QDate day = CalendarQDate();
     cboDate->setDate(day);
-    m_loading = false;
+    loading.reset();
     Guard([this, day] {
         for (int i = 0; i < lstWeighIns->count(); ++i)
             if (lstWeighIns->item(i)->data(Qt::UserRole).toDate() == day)
@@ -178,10 +192,7 @@ QWidget* frmWeighIn::buildWeighInTab()
     mg->addWidget(new QLabel(QStringLiteral("Actual"), fraMeasurements), 0, 1);
     mg->addWidget(new QLabel(QStringLiteral("Goal"), fraMeasurements), 0, 2);
     for (int i = 0; i < 14; ++i) {
-        auto* l = new QLabel(QString::fromLatin1(MeasureNames[i]).prepend(QLatin1Char('&')), fraMeasurements);
-        l->setBuddy(txtData[i]);
-        mg->addWidget(l, i + 1, 0);
-        mg->addWidget(txtData[i], i + 1, 1);
+        form::AddRow(mg, i + 1, QString::fromLatin1(MeasureNames[i]).prepend(QLatin1Char('&')), txtData[i]);
         mg->addWidget(txtGoal[i], i + 1, 2);
         txtGoal[i]->setAccessibleName(QString::fromLatin1(MeasureNames[i]) + QStringLiteral(" goal"));
         m_lengthLabels[i] = new QLabel(fraMeasurements);
@@ -223,10 +234,7 @@ QWidget* frmWeighIn::buildWeighInTab()
 
     int r = 0;
     auto addRow = [&](const QString& caption, QWidget* field, QWidget* goal, QWidget* extra) {
-        auto* l = new QLabel(caption, fraBody);
-        l->setBuddy(field);
-        bg->addWidget(l, r, 0);
-        bg->addWidget(field, r, 1);
+        form::AddRow(bg, r, caption, field);
         if (goal) bg->addWidget(goal, r, 2);
         if (extra) bg->addWidget(extra, r, 3);
         ++r;
@@ -251,10 +259,7 @@ QWidget* frmWeighIn::buildWeighInTab()
     auto* fraSkin = new QGroupBox(QStringLiteral("Skinfolds"), page);
     auto* sg = new QGridLayout(fraSkin);
     for (int i = 0; i < 7; ++i) {
-        auto* l = new QLabel(QString::fromLatin1(SkinfoldNames[i]), fraSkin);
-        l->setBuddy(txtData[16 + i]);
-        sg->addWidget(l, i, 0);
-        sg->addWidget(txtData[16 + i], i, 1);
+        form::AddRow(sg, i, QString::fromLatin1(SkinfoldNames[i]), txtData[16 + i]);
         m_skinLabels[i] = new QLabel(fraSkin);
         sg->addWidget(m_skinLabels[i], i, 2);
     }
@@ -347,17 +352,15 @@ QString frmWeighIn::GetLocalDate() const { return cboDate->date().toString(QStri
 void frmWeighIn::loadProfile()
 {
     SqlText = QStringLiteral("select * from User_Info where User_ID=") + CurrentUserID;
-    UserRS.Open(SqlText);
-    if (!UserRS.Eof()) {
-        lblSex->setText(Str(UserRS.Field(QStringLiteral("sex"))));
-        m_height = Val(UserRS.Field(QStringLiteral("Height")));
-        m_ideal = Val(UserRS.Field(QStringLiteral("IdealWeight")));
-        m_age = Val(UserRS.Field(QStringLiteral("age")));
-        m_targetWeight = Val(UserRS.Field(QStringLiteral("TargetWeight")));
-        m_targetBodyFat = Val(UserRS.Field(QStringLiteral("TargetBodyFat")));
-        m_units = Str(UserRS.Field(QStringLiteral("personal_measurements")));
-    }
-    UserRS.Close();
+    FirstRow(UserRS, SqlText, [this](Recordset& rs) {
+        lblSex->setText(Str(rs.Field(QStringLiteral("sex"))));
+        m_height = Val(rs.Field(QStringLiteral("Height")));
+        m_ideal = Val(rs.Field(QStringLiteral("IdealWeight")));
+        m_age = Val(rs.Field(QStringLiteral("age")));
+        m_targetWeight = Val(rs.Field(QStringLiteral("TargetWeight")));
+        m_targetBodyFat = Val(rs.Field(QStringLiteral("TargetBodyFat")));
+        m_units = Str(rs.Field(QStringLiteral("personal_measurements")));
+    });
 }
 
 void frmWeighIn::setLabels()
@@ -374,46 +377,44 @@ void frmWeighIn::setLabels()
 void frmWeighIn::loadGoals()
 {
     SqlText = QStringLiteral("select * from WeighIn_goals where User_ID='") + CurrentUserID + QStringLiteral("'");
-    UserRS.Open(SqlText);
-    if (!UserRS.Eof()) {
-        const int n = std::min(GoalFields, UserRS.FieldCount() - 1);
+    FirstRow(UserRS, SqlText, [this](Recordset& rs) {
+        const int n = std::min(GoalFields, rs.FieldCount() - 1);
         for (int i = 0; i < n; ++i)
-            txtGoal[i]->setText(NumberText(UserRS.Field(i + 1)));
-    }
-    UserRS.Close();
+            txtGoal[i]->setText(NumberText(rs.Field(i + 1)));
+    });
     txtGoal[14]->setText(m_targetWeight ? Str(QVariant(m_targetWeight)) : QString());
     txtGoal[15]->setText(m_targetBodyFat ? Str(QVariant(m_targetBodyFat)) : QString());
 }
 
 void frmWeighIn::LoadDates()
 {
-    const bool was = m_loading;
-    m_loading = true;
+    QScopedValueRollback<bool> loading(m_loading, true);
     lstWeighIns->clear();
     SqlText = QStringLiteral("select distinct date from WeighIn where User_ID='") + CurrentUserID +
               QStringLiteral("' order by date desc");
-    UserRS.Open(SqlText);
-    while (!UserRS.Eof()) {
-        const QDate d = DateOf(UserRS.Field(0));
-        auto* item = new QListWidgetItem(regional::ShortDate(d), lstWeighIns);
+    listfill::FillList(lstWeighIns, UserRS, SqlText, [](QListWidget* list, Recordset& rs) {
+        const QDate d = DateOf(rs.Field(0));
+        auto* item = new QListWidgetItem(regional::ShortDate(d), list);
         item->setData(Qt::UserRole, d);
-        UserRS.MoveNext();
-    }
-    UserRS.Close();
-    m_loading = was;
+    });
 }
 
 void frmWeighIn::loadmonths()
 {
-    // The history's item list: three named figures, then the fourteen girths by column name.
+    // The history's item list: three named figures, then the fourteen girths, each shown in
+    // words with its column as the item's data.
     cboGraph->blockSignals(true);
     cboGraph->clear();
-    cboGraph->addItems({QStringLiteral("Weight"), QStringLiteral("Height"), QStringLiteral("Bodyfat")});
+    cboGraph->addItem(QStringLiteral("Weight"), QStringLiteral("weight"));
+    cboGraph->addItem(QStringLiteral("Height"), QStringLiteral("height"));
+    cboGraph->addItem(QStringLiteral("Bodyfat"), QStringLiteral("bodyfat"));
     SqlText = QStringLiteral("select * from WeighIn where User_ID='0'");
-    UserRS.Open(SqlText);
-    for (int i = 2; i <= 15 && i < UserRS.FieldCount(); ++i)
-        cboGraph->addItem(UserRS.FieldName(i));
-    UserRS.Close();
+    {
+        RecordsetScope scope(UserRS);
+        UserRS.Open(SqlText);
+        for (int i = 2; i <= 15 && i < UserRS.FieldCount(); ++i)
+            cboGraph->addItem(weighin::ColumnCaption(UserRS.FieldName(i)), UserRS.FieldName(i));
+    }
     cboGraph->setCurrentIndex(0);
     cboGraph->blockSignals(false);
 
@@ -443,55 +444,47 @@ void frmWeighIn::clearform()
 
 void frmWeighIn::LoadWeighIn(const QDate& date)
 {
-    const bool was = m_loading;
-    m_loading = true;
+    QScopedValueRollback<bool> loading(m_loading, true);
     clearform();
     SqlText = QStringLiteral("select * from WeighIn where User_ID='") + CurrentUserID + QStringLiteral("' and date=#") +
               date.toString(QStringLiteral("yyyy-MM-dd")) + QStringLiteral("#");
-    UserRS.Open(SqlText);
-    if (!UserRS.Eof()) {
+    const bool found = FirstRow(UserRS, SqlText, [this](Recordset& rs) {
         for (int i = 0; i < 14; ++i) {
-            const double v = Val(UserRS.Field(i + 2));
+            const double v = Val(rs.Field(i + 2));
             if (v > 0)
-                txtData[i]->setText(Str(UserRS.Field(i + 2)));
+                txtData[i]->setText(Str(rs.Field(i + 2)));
         }
-        txtData[14]->setText(NumberText(UserRS.Field(QStringLiteral("weight"))));
-        const double height = Val(UserRS.Field(QStringLiteral("Height")));
-        txtHeight->setText(height == 0 ? Str(QVariant(m_height)) : Str(UserRS.Field(QStringLiteral("Height"))));
-        txtData[15]->setText(NumberText(UserRS.Field(QStringLiteral("BodyFat"))));
-        cboCondition->setCurrentIndex(cboCondition->findText(Str(UserRS.Field(QStringLiteral("Condition"))).trimmed()));
-        const QVariant bmr = UserRS.Field(QStringLiteral("BMR"));
+        txtData[14]->setText(NumberText(rs.Field(QStringLiteral("weight"))));
+        const double height = Val(rs.Field(QStringLiteral("Height")));
+        txtHeight->setText(height == 0 ? Str(QVariant(m_height)) : Str(rs.Field(QStringLiteral("Height"))));
+        txtData[15]->setText(NumberText(rs.Field(QStringLiteral("BodyFat"))));
+        cboCondition->setCurrentIndex(cboCondition->findText(Str(rs.Field(QStringLiteral("Condition"))).trimmed()));
+        const QVariant bmr = rs.Field(QStringLiteral("BMR"));
         txtBMR->setText(IsNull(bmr) ? QString() : regional::FormatNumber(Val(bmr), QStringLiteral("0000")));
-        txtBMI->setText(NumberText(UserRS.Field(QStringLiteral("BMI"))));
-        txtVo2->setText(NumberText(UserRS.Field(QStringLiteral("Vo2"))));
-        txtBFMeasure->setText(Str(UserRS.Field(QStringLiteral("BodyFatMeasure"))));
+        txtBMI->setText(NumberText(rs.Field(QStringLiteral("BMI"))));
+        txtVo2->setText(NumberText(rs.Field(QStringLiteral("Vo2"))));
+        txtBFMeasure->setText(Str(rs.Field(QStringLiteral("BodyFatMeasure"))));
         for (int i = 0; i < 7; ++i)
-            txtData[16 + i]->setText(NumberText(UserRS.Field(QString::fromLatin1(SkinfoldColumns[i]))));
-        txtPhoto->setText(Str(UserRS.Field(QStringLiteral("Photo"))).trimmed());
+            txtData[16 + i]->setText(NumberText(rs.Field(QString::fromLatin1(SkinfoldColumns[i]))));
+        txtPhoto->setText(Str(rs.Field(QStringLiteral("Photo"))).trimmed());
         showPhoto(txtPhoto->text());
-        cmdDelete->setEnabled(true);
-    } else {
-        cmdDelete->setEnabled(false);
-    }
-    UserRS.Close();
+    });
+    cmdDelete->setEnabled(found);
 
     SqlText = QStringLiteral("select * from User_Info where User_ID=") + CurrentUserID;
-    UserRS.Open(SqlText);
-    if (!UserRS.Eof()) {
+    FirstRow(UserRS, SqlText, [this](Recordset& rs) {
         if (Val(txtGoal[14]->text()) == 0)
-            txtGoal[14]->setText(NumberText(UserRS.Field(QStringLiteral("TargetWeight"))));
+            txtGoal[14]->setText(NumberText(rs.Field(QStringLiteral("TargetWeight"))));
         if (cboCondition->currentText().isEmpty()) {
-            const QVariant c = UserRS.Field(QStringLiteral("Current_Condition"));
+            const QVariant c = rs.Field(QStringLiteral("Current_Condition"));
             if (!IsNull(c)) {
                 const int index = int(Val(c));
                 if (index >= 0 && index < cboCondition->count())
                     cboCondition->setCurrentIndex(index);
             }
         }
-    }
-    UserRS.Close();
+    });
     cmdSave->setEnabled(false);
-    m_loading = was;
 }
 
 void frmWeighIn::showPhoto(const QString& path)
@@ -550,11 +543,8 @@ void frmWeighIn::on_cmdLastWeighIn_clicked()
     Guard([this] {
         SqlText = QStringLiteral("select * from WeighIn where User_ID='") + CurrentUserID +
                   QStringLiteral("' order by date desc");
-        UserRS.Open(SqlText);
         QDate last;
-        if (!UserRS.Eof())
-            last = DateOf(UserRS.Field(QStringLiteral("Date")));
-        UserRS.Close();
+        FirstRow(UserRS, SqlText, [&last](Recordset& rs) { last = DateOf(rs.Field(QStringLiteral("Date"))); });
         if (!last.isValid())
             return;
         LoadWeighIn(last);
@@ -566,6 +556,9 @@ void frmWeighIn::on_cmdLastWeighIn_clicked()
 void frmWeighIn::on_cmdSave_clicked()
 {
     Guard([this] {
+        // The goals and the weigh-in are kept together or not at all.
+        StoreTransaction transaction(UserConn);
+        RecordsetScope scope(UserRS);
         SqlText = QStringLiteral("select * from WeighIn_Goals where User_ID='") + CurrentUserID + QStringLiteral("'");
         UserRS.Open(SqlText);
         if (UserRS.Eof()) {
@@ -601,6 +594,7 @@ void frmWeighIn::on_cmdSave_clicked()
         UserRS.SetField(QStringLiteral("Photo"), txtPhoto->text().trimmed());
         UserRS.Update();
         UserRS.Close();
+        transaction.Commit();
 
         bool listed = false;
         for (int i = 0; i < lstWeighIns->count(); ++i)
@@ -608,12 +602,10 @@ void frmWeighIn::on_cmdSave_clicked()
                 listed = true;
         if (!listed) {
             LoadDates();
-            const bool was = m_loading;
-            m_loading = true;
+            QScopedValueRollback<bool> loading(m_loading, true);
             for (int i = 0; i < lstWeighIns->count(); ++i)
                 if (lstWeighIns->item(i)->data(Qt::UserRole).toDate() == cboDate->date())
                     lstWeighIns->setCurrentRow(i);
-            m_loading = was;
         }
         cmdDelete->setEnabled(true);
         cmdSave->setEnabled(false);
@@ -677,14 +669,14 @@ void frmWeighIn::on_cboDate_dateChanged(const QDate& date)
     if (m_loading)
         return;
     Guard([this, date] {
-        const bool was = m_loading;
-        m_loading = true;
-        lstWeighIns->clearSelection();
-        lstWeighIns->setCurrentRow(-1);
-        for (int i = 0; i < lstWeighIns->count(); ++i)
-            if (lstWeighIns->item(i)->data(Qt::UserRole).toDate() == date)
-                lstWeighIns->setCurrentRow(i);
-        m_loading = was;
+        {
+            QScopedValueRollback<bool> loading(m_loading, true);
+            lstWeighIns->clearSelection();
+            lstWeighIns->setCurrentRow(-1);
+            for (int i = 0; i < lstWeighIns->count(); ++i)
+                if (lstWeighIns->item(i)->data(Qt::UserRole).toDate() == date)
+                    lstWeighIns->setCurrentRow(i);
+        }
         LoadWeighIn(date);
     });
 }
@@ -718,15 +710,9 @@ void frmWeighIn::Graph()
         return;
     const QDate from = txtStartDate->date();
     const QDate to = txtEndDate->date();
-    QString column;
-    if (item == QLatin1String("Weight"))
-        column = QStringLiteral("weight");
-    else if (item == QLatin1String("Height"))
-        column = QStringLiteral("height");
-    else if (item == QLatin1String("Bodyfat"))
-        column = QStringLiteral("bodyfat");
-    else
-        column = item;
+    const QString column = cboGraph->currentData().toString();
+    if (column.isEmpty())
+        return;
     const QString range = QStringLiteral(" from WeighIn where User_ID='") + CurrentUserID +
                           QStringLiteral("' and date between #") + from.toString(QStringLiteral("yyyy-MM-dd")) +
                           QStringLiteral("# and #") + to.toString(QStringLiteral("yyyy-MM-dd")) +
@@ -738,13 +724,10 @@ void frmWeighIn::Graph()
 
     QStringList labels;
     QVector<double> values;
-    UserRS.Open(SqlText);
-    while (!UserRS.Eof()) {
-        labels << regional::ShortDate(DateOf(UserRS.Field(0)));
-        values << Val(UserRS.Field(1));
-        UserRS.MoveNext();
-    }
-    UserRS.Close();
+    ForEachRow(UserRS, SqlText, [&](Recordset& rs) {
+        labels << regional::ShortDate(DateOf(rs.Field(0)));
+        values << Val(rs.Field(1));
+    });
     // Qt Charts 6.4 keeps drawing an axis that had no series once it is removed, unless it
     // was hidden first; the chart replaces its axes on every change.
     auto hideAxes = [this] {
@@ -763,24 +746,16 @@ void frmWeighIn::Graph()
 void frmWeighIn::SetTargetCalories()
 {
     SqlText = QStringLiteral("select * from WeighIn where User_ID='") + CurrentUserID + QStringLiteral("' order by date desc");
-    UserRS.Open(SqlText);
-    if (UserRS.Eof()) {
-        UserRS.Close();
+    double bmr = 0;
+    if (!FirstRow(UserRS, SqlText, [&bmr](Recordset& rs) { bmr = Val(Str(rs.Field(QStringLiteral("BMR")))); }))
         return;
-    }
-    const double bmr = Val(Str(UserRS.Field(QStringLiteral("BMR"))));
-    const double weight = Val(Str(UserRS.Field(QStringLiteral("weight"))));
-    Q_UNUSED(weight);
-    UserRS.Close();
 
     SqlText = QStringLiteral("select * from User_Info where User_ID=") + CurrentUserID;
-    UserRS.Open(SqlText);
-    if (!UserRS.Eof()) {
-        const double diet = Val(Str(UserRS.Field(QStringLiteral("DietCalsPerDay"))));
-        UserRS.SetField(QStringLiteral("TargetCals"), weighin::TargetCalories(bmr, diet));
-        UserRS.Update();
-    }
-    UserRS.Close();
+    FirstRow(UserRS, SqlText, [bmr](Recordset& rs) {
+        const double diet = Val(Str(rs.Field(QStringLiteral("DietCalsPerDay"))));
+        rs.SetField(QStringLiteral("TargetCals"), weighin::TargetCalories(bmr, diet));
+        rs.Update();
+    });
 }
 
 void frmWeighIn::done(int result)

@@ -54,4 +54,11 @@ UnitLabels LabelsFor(const QString& personalMeasurements)
     return {QStringLiteral("Measurements - centimeters"), QStringLiteral("kg"), QStringLiteral("cm"), QStringLiteral("mm")};
 }
 
+QString ColumnCaption(const QString& column)
+{
+    QString caption = column;
+    caption.replace(QLatin1Char('_'), QLatin1Char(' '));
+    return caption.simplified();
+}
+
 }  // namespace weighin

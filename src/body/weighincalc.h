@@ -40,4 +40,7 @@ struct UnitLabels {
 };
 UnitLabels LabelsFor(const QString& personalMeasurements);
 
+// A measurement's column as a person reads it: "Bicep_Left" is "Bicep Left".
+QString ColumnCaption(const QString& column);
+
 }  // namespace weighin

@@ -4,6 +4,8 @@
 #include "calendar/frmSched2.h"
 #include "core/ini.h"
 #include "core/routines.h"
+#include "core/rows.h"
+#include "core/store/transaction.h"
 #include "core/shared.h"
 #include "core/ui.h"
 #include "core/widgets/DayView.h"
@@ -74,68 +76,58 @@ void CalendarPopup::itmPaste_Click()
     const QString copyDate = SqlDate(m_copyDate);
     DayView* view = m_planner->DayView;
 
+    // The day's entries and their logs arrive together or not at all.
+    StoreTransaction transaction(UserConn);
     SqlText = QStringLiteral("select * from calendar where User_ID='") + id + QStringLiteral("' and date=#") + copyDate
               + QStringLiteral("#");
-    UserRS3.Open(SqlText);
-    while (!UserRS3.Eof()) {
-        const QString type = Str(UserRS3.Field(QStringLiteral("WorkoutType")));
-        const QString key = Str(UserRS3.Field(QStringLiteral("Key")));
+    ForEachRow(UserRS3, SqlText, [&](Recordset& entry) {
+        const QString type = Str(entry.Field(QStringLiteral("WorkoutType")));
+        const QString key = Str(entry.Field(QStringLiteral("Key")));
         const QString logTable = type == QLatin1String("Strength") ? QStringLiteral("daily_weights")
                                                                     : QStringLiteral("daily_exercise");
-        SqlText = QStringLiteral("select * from ") + logTable + QStringLiteral(" where User_ID='") + id
-                  + QStringLiteral("' and date=#") + copyDate + QStringLiteral("# and key='") + key + QStringLiteral("'");
-        UserRS.Open(SqlText);
-
-        const QTime s = EntryTime(UserRS3.Field(QStringLiteral("StartTime")));
-        const QTime e = EntryTime(UserRS3.Field(QStringLiteral("EndTime")));
+        const QTime s = EntryTime(entry.Field(QStringLiteral("StartTime")));
+        const QTime e = EntryTime(entry.Field(QStringLiteral("EndTime")));
         const QDateTime start(target, s);
         const QDateTime end = (e == QTime(0, 0) && s > e) ? QDateTime(target.addDays(1), e) : QDateTime(target, e);
         const int newId = (s.isValid() && e.isValid())
-                              ? view->AddEntry(start, end, Str(UserRS3.Field(QStringLiteral("Name"))), QString(), theme::Color())
+                              ? view->AddEntry(start, end, Str(entry.Field(QStringLiteral("Name"))), QString(), theme::Color())
                               : 0;
-        if (newId == 0) {
-            // An entry whose times can't be placed on the day is not copied.
-            UserRS.Close();
-            UserRS3.MoveNext();
-            continue;
-        }
+        if (newId == 0) return;   // an entry whose times can't be placed on the day is not copied
         SelectedKey = QString::number(newId);
         view->SetHiddenText(newId, type + QLatin1Char('\t') + SelectedKey);
 
-        if (!UserRS.Eof()) {
-            UserRS2.Open(logTable);
-            while (!UserRS.Eof()) {
-                UserRS2.AddNew();
-                for (int i = 0; i < UserRS.FieldCount(); ++i) {
-                    const QString f = UserRS.FieldName(i);
-                    if (f.compare(QLatin1String("Date"), Qt::CaseInsensitive) == 0) UserRS2.SetField(f, target);
-                    else if (f.compare(QLatin1String("Key"), Qt::CaseInsensitive) == 0) UserRS2.SetField(f, SelectedKey);
-                    else if (f.compare(QLatin1String("StartTime"), Qt::CaseInsensitive) == 0) UserRS2.SetField(f, start);
-                    else if (f.compare(QLatin1String("EndTime"), Qt::CaseInsensitive) == 0) UserRS2.SetField(f, end);
-                    else UserRS2.SetField(f, UserRS.Field(i));
-                }
-                UserRS2.Update();
-                UserRS.MoveNext();
+        SqlText = QStringLiteral("select * from ") + logTable + QStringLiteral(" where User_ID='") + id
+                  + QStringLiteral("' and date=#") + copyDate + QStringLiteral("# and key='") + key + QStringLiteral("'");
+        RecordsetScope adding(UserRS2);
+        ForEachRow(UserRS, SqlText, [&](Recordset& log) {
+            if (!UserRS2.IsOpen()) UserRS2.Open(logTable);
+            UserRS2.AddNew();
+            for (int i = 0; i < log.FieldCount(); ++i) {
+                const QString f = log.FieldName(i);
+                if (f.compare(QLatin1String("Date"), Qt::CaseInsensitive) == 0) UserRS2.SetField(f, target);
+                else if (f.compare(QLatin1String("Key"), Qt::CaseInsensitive) == 0) UserRS2.SetField(f, SelectedKey);
+                else if (f.compare(QLatin1String("StartTime"), Qt::CaseInsensitive) == 0) UserRS2.SetField(f, start);
+                else if (f.compare(QLatin1String("EndTime"), Qt::CaseInsensitive) == 0) UserRS2.SetField(f, end);
+                else UserRS2.SetField(f, log.Field(i));
             }
-            UserRS2.Close();
-        }
-        UserRS.Close();
+            UserRS2.Update();
+        });
+        UserRS2.Close();
 
         UserRS2.Open(QStringLiteral("calendar"));
         UserRS2.AddNew();
-        for (int i = 0; i < UserRS3.FieldCount(); ++i) {
-            const QString f = UserRS3.FieldName(i);
+        for (int i = 0; i < entry.FieldCount(); ++i) {
+            const QString f = entry.FieldName(i);
             if (f.compare(QLatin1String("Date"), Qt::CaseInsensitive) == 0) UserRS2.SetField(f, target);
             else if (f.compare(QLatin1String("Key"), Qt::CaseInsensitive) == 0) UserRS2.SetField(f, SelectedKey);
             else if (f.compare(QLatin1String("StartTime"), Qt::CaseInsensitive) == 0) UserRS2.SetField(f, EntryTimeText(start));
             else if (f.compare(QLatin1String("EndTime"), Qt::CaseInsensitive) == 0) UserRS2.SetField(f, EntryTimeText(end));
-            else UserRS2.SetField(f, UserRS3.Field(i));
+            else UserRS2.SetField(f, entry.Field(i));
         }
         UserRS2.Update();
         UserRS2.Close();
-        UserRS3.MoveNext();
-    }
-    UserRS3.Close();
+    });
+    transaction.Commit();
     LoadCalendarIcons(m_planner->CalView, target, 1);
     m_planner->LoadNetCalories();
 }
@@ -152,11 +144,12 @@ void CalendarPopup::itmDelete_Click()
 
     SqlText = QStringLiteral("select * from calendar where User_ID='") + id + QStringLiteral("' and date=#") + date
               + QStringLiteral("#");
-    UserRS3.Open(SqlText);
-    while (!UserRS3.Eof()) {
-        const QString type = Str(UserRS3.Field(QStringLiteral("WorkoutType")));
-        const QString key = Str(UserRS3.Field(QStringLiteral("Key")));
-        const QString name = SqlQuote(Str(UserRS3.Field(QStringLiteral("Name"))));
+    // The day's activities leave every table at once or stay in all of them.
+    StoreTransaction transaction(UserConn);
+    ForEachRow(UserRS3, SqlText, [&](Recordset& entry) {
+        const QString type = Str(entry.Field(QStringLiteral("WorkoutType")));
+        const QString key = Str(entry.Field(QStringLiteral("Key")));
+        const QString name = SqlQuote(Str(entry.Field(QStringLiteral("Name"))));
         // 1. The entry leaves the day view.
         for (const DayViewEntry& e : view->Model().Entries()) {
             QString t, k;
@@ -184,9 +177,8 @@ void CalendarPopup::itmDelete_Click()
                          + QStringLiteral("# and key='") + key + QStringLiteral("' and SPORT='") + name + QStringLiteral("'"));
         UserConn.Execute(QStringLiteral("delete * from Daily_Psych where User_ID='") + id + QStringLiteral("' and Date=#") + date
                          + QStringLiteral("# and name='") + name + QStringLiteral("' and key='") + key + QStringLiteral("'"));
-        UserRS3.MoveNext();
-    }
-    UserRS3.Close();
+    });
+    transaction.Commit();
     LoadCalendarIcons(m_planner->CalView, day, 1);
     m_planner->LoadNetCalories();
 }

@@ -4,6 +4,8 @@
 #include "calendar/planner.h"
 #include "core/regional.h"
 #include "core/routines.h"
+#include "core/rows.h"
+#include "core/store/transaction.h"
 #include "core/shared.h"
 #include "core/ui.h"
 #include "core/widgets/IDayView.h"
@@ -57,23 +59,29 @@ void SaveCalendarEntry(const QString& name, const QString& workoutType, const QD
                        const QString& endTime, int image)
 {
     const QString d = SqlDate(date);
-    SqlText = QStringLiteral("delete * from calendar where User_ID='") + CurrentUserID + QStringLiteral("' and date=#") + d
-              + QStringLiteral("# and key=") + SelectedKey + QStringLiteral(" and workouttype='") + workoutType
-              + QStringLiteral("'");
-    UserConn.Execute(SqlText);
+    {
+        // The entry is replaced: the old row stays unless the new one is written.
+        StoreTransaction transaction(UserConn);
+        RecordsetScope scope(UserRS);
+        SqlText = QStringLiteral("delete * from calendar where User_ID='") + CurrentUserID + QStringLiteral("' and date=#") + d
+                  + QStringLiteral("# and key=") + SelectedKey + QStringLiteral(" and workouttype='") + workoutType
+                  + QStringLiteral("'");
+        UserConn.Execute(SqlText);
 
-    UserRS.Open(QStringLiteral("calendar"));
-    UserRS.AddNew();
-    UserRS.SetField(QStringLiteral("User_ID"), CurrentUserID);
-    UserRS.SetField(QStringLiteral("Date"), date);
-    UserRS.SetField(QStringLiteral("Key"), SelectedKey);
-    UserRS.SetField(QStringLiteral("Name"), name);
-    UserRS.SetField(QStringLiteral("WorkoutType"), workoutType);
-    UserRS.SetField(QStringLiteral("StartTime"), startTime);
-    UserRS.SetField(QStringLiteral("EndTime"), endTime);
-    UserRS.SetField(QStringLiteral("Image"), image);
-    UserRS.Update();
-    UserRS.Close();
+        UserRS.Open(QStringLiteral("calendar"));
+        UserRS.AddNew();
+        UserRS.SetField(QStringLiteral("User_ID"), CurrentUserID);
+        UserRS.SetField(QStringLiteral("Date"), date);
+        UserRS.SetField(QStringLiteral("Key"), SelectedKey);
+        UserRS.SetField(QStringLiteral("Name"), name);
+        UserRS.SetField(QStringLiteral("WorkoutType"), workoutType);
+        UserRS.SetField(QStringLiteral("StartTime"), startTime);
+        UserRS.SetField(QStringLiteral("EndTime"), endTime);
+        UserRS.SetField(QStringLiteral("Image"), image);
+        UserRS.Update();
+        UserRS.Close();
+        transaction.Commit();
+    }
 
     LoadCalendarIcons(date, 1);
 }
@@ -82,13 +90,8 @@ long DayCalories()
 {
     SqlText = QStringLiteral("select * from calendar where User_ID='") + CurrentUserID + QStringLiteral("' and date=#")
               + CalendarDate() + QStringLiteral("#");
-    UserRS.Open(SqlText);
     double sum = 0;
-    while (!UserRS.Eof()) {
-        sum += Val(Str(UserRS.Field(QStringLiteral("Cals"))));
-        UserRS.MoveNext();
-    }
-    UserRS.Close();
+    ForEachRow(UserRS, SqlText, [&sum](Recordset& rs) { sum += Val(Str(rs.Field(QStringLiteral("Cals")))); });
     return long(regional::Round(sum, 0));
 }
 
@@ -99,23 +102,18 @@ void LoadDayView(IDayView* view)
     const QDate day = CalendarQDate();
     SqlText = QStringLiteral("select * from calendar where date=#") + CalendarDate() + QStringLiteral("# and User_ID='")
               + CurrentUserID + QStringLiteral("'");
-    UserRS.Open(SqlText);
     const QColor colour = theme::Color();
-    while (!UserRS.Eof()) {
-        const QTime s = EntryTime(UserRS.Field(QStringLiteral("StartTime")));
-        const QTime e = EntryTime(UserRS.Field(QStringLiteral("EndTime")));
-        if (s.isValid() && e.isValid()) {
-            const QDateTime start(day, s);
-            // An end at midnight closes the day.
-            const QDateTime end = (e == QTime(0, 0) && s > e) ? QDateTime(day.addDays(1), e) : QDateTime(day, e);
-            view->AddEntry(start, end, Str(UserRS.Field(QStringLiteral("Name"))),
-                           Str(UserRS.Field(QStringLiteral("WorkoutType"))) + QLatin1Char('\t')
-                               + Str(UserRS.Field(QStringLiteral("Key"))),
-                           colour);
-        }
-        UserRS.MoveNext();
-    }
-    UserRS.Close();
+    ForEachRow(UserRS, SqlText, [&](Recordset& rs) {
+        const QTime s = EntryTime(rs.Field(QStringLiteral("StartTime")));
+        const QTime e = EntryTime(rs.Field(QStringLiteral("EndTime")));
+        if (!s.isValid() || !e.isValid()) return;
+        const QDateTime start(day, s);
+        // An end at midnight closes the day.
+        const QDateTime end = (e == QTime(0, 0) && s > e) ? QDateTime(day.addDays(1), e) : QDateTime(day, e);
+        view->AddEntry(start, end, Str(rs.Field(QStringLiteral("Name"))),
+                       Str(rs.Field(QStringLiteral("WorkoutType"))) + QLatin1Char('\t') + Str(rs.Field(QStringLiteral("Key"))),
+                       colour);
+    });
 }
 
 namespace {
@@ -139,7 +137,6 @@ void LoadCalendarIcons(MonthCalendar* calendar, const QDate& date, int mode)
                   + SqlDate(date) + QStringLiteral("# order by date");
     else
         SqlText = QStringLiteral("select * from Calendar where User_ID='") + CurrentUserID + QStringLiteral("' order by date");
-    UserRS4.Open(SqlText);
     // Strips are shared between dates with the same icons.
     QHash<QString, QPixmap> strips;
     QDate current;
@@ -151,26 +148,24 @@ void LoadCalendarIcons(MonthCalendar* calendar, const QDate& date, int mode)
         if (it == strips.end()) it = strips.insert(signature, IconStrip(icons));
         calendar->SetPicture(current, *it);
     };
-    while (!UserRS4.Eof()) {
-        const QDate d = FieldDate(UserRS4.Field(QStringLiteral("Date")));
+    ForEachRow(UserRS4, SqlText, [&](Recordset& rs) {
+        const QDate d = FieldDate(rs.Field(QStringLiteral("Date")));
         if (d != current) {
             flush();
             current = d;
             icons.clear();
             signature.clear();
         }
-        const QString type = Str(UserRS4.Field(QStringLiteral("WorkoutType")));
-        const QVariant image = UserRS4.Field(QStringLiteral("Image"));
+        const QString type = Str(rs.Field(QStringLiteral("WorkoutType")));
+        const QVariant image = rs.Field(QStringLiteral("Image"));
         const QPixmap icon = RowIcon(image, type);
         if (!icon.isNull()) {
             icons.append(icon);
             signature += (type == QLatin1String("Appointment") ? QStringLiteral("a") : QStringLiteral("e"))
                          + QString::number(int(Val(image))) + QLatin1Char(',');
         }
-        UserRS4.MoveNext();
-    }
+    });
     flush();
-    UserRS4.Close();
 }
 
 void LoadCalendarIcons(const QDate& date, int mode) { LoadCalendarIcons(PlannerCalendar(), date, mode); }

@@ -8,9 +8,12 @@
 #include "core/ini.h"
 #include "core/regional.h"
 #include "core/routines.h"
+#include "core/rows.h"
+#include "core/store/transaction.h"
 #include "core/shared.h"
 #include "core/ui.h"
 #include "core/widgets/DayView.h"
+#include "core/widgets/ListFill.h"
 #include "core/widgets/MonthCalendar.h"
 #include "core/widgets/RichText.h"
 
@@ -25,6 +28,7 @@
 #include <QListWidget>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScopedValueRollback>
 #include <QSplitter>
 #include <QTabWidget>
 #include <QTextEdit>
@@ -51,6 +55,29 @@ QLineEdit* Figure(const QString& name)
 
 // Runs a step of a load on its own, so that one failing statement leaves the others working.
 void Step(const std::function<void()>& f) { Guard(f); }
+
+// The time scales of cbointerval, in minutes.
+constexpr int Scales[] = {60, 30, 15, 10, 5};
+constexpr int ScaleCount = int(sizeof(Scales) / sizeof(Scales[0]));
+
+// A whole number read from the settings file, or `fallback` when it is missing, not a number
+// or outside first..last.
+int SettingInRange(const QString& key, int first, int last, int fallback)
+{
+    const QString text = ReadIni(QStringLiteral("Program"), key, IniFile).trimmed();
+    bool ok = false;
+    const int v = text.toInt(&ok);
+    return ok && v >= first && v <= last ? v : fallback;
+}
+
+// One entry of the exercises list: its name and icon, the icon's number as its data.
+void AddExercise(QListWidget* list, Recordset& rs)
+{
+    const int image = int(Val(rs.Field(QStringLiteral("Image"))));
+    auto* item = new QListWidgetItem(Str(rs.Field(QStringLiteral("exercise"))), list);
+    if (image > 0) item->setIcon(ExerciseIcon(image));
+    item->setData(Qt::UserRole, image);
+}
 }  // namespace
 
 void ParseHiddenText(const QString& hidden, QString* workoutType, QString* key)
@@ -291,10 +318,10 @@ void frmSched2::BuildUi()
         if (CurrentUserID.isEmpty() || !UserConn.IsOpen()) return 0;
         try {
             Recordset rs(&UserConn);
-            rs.Open(QStringLiteral("select max(key) from calendar where User_ID='") + CurrentUserID
-                    + QStringLiteral("' and date=#") + SqlDate(d) + QStringLiteral("#"));
-            const int k = rs.Eof() ? 0 : int(Val(rs.Field(0)));
-            rs.Close();
+            int k = 0;
+            FirstRow(rs, QStringLiteral("select max(key) from calendar where User_ID='") + CurrentUserID
+                             + QStringLiteral("' and date=#") + SqlDate(d) + QStringLiteral("#"),
+                     [&k](Recordset& r) { k = int(Val(r.Field(0))); });
             return k;
         } catch (const std::exception&) {
             return 0;
@@ -344,83 +371,70 @@ void frmSched2::BuildUi()
 
 void frmSched2::Form_Load()
 {
-    m_loading = true;
-    SetColor();
-    DayView->SetDayStart(QTime(0, 1));
-    DayView->SetDayEnd(QTime(0, 0));
-    DayView->SetDate(SelectedDate());
-    m_loadedDate = SelectedDate();
+    {
+        QScopedValueRollback<bool> loading(m_loading, true);
+        SetColor();
+        DayView->SetDayStart(QTime(0, 1));
+        DayView->SetDayEnd(QTime(0, 0));
+        DayView->SetDate(SelectedDate());
+        m_loadedDate = SelectedDate();
 
-    Step([this] { LoadCalendarIcons(CalView, SelectedDate(), 0); });
-    Step([this] { FormatLog(); });
-    Step([this] { LoadNotes(); });
-    Step([this] { LoadToday(); });
-    Step([this] { LoadDayView(); });
-    Step([this] { LoadDayItems(); });
-    Step([this] { LoadNetCalories(); });
-    Step([this] { LoadWater(); });
+        Step([this] { LoadCalendarIcons(CalView, SelectedDate(), 0); });
+        Step([this] { FormatLog(); });
+        Step([this] { LoadNotes(); });
+        Step([this] { LoadToday(); });
+        Step([this] { LoadDayView(); });
+        Step([this] { LoadDayItems(); });
+        Step([this] { LoadNetCalories(); });
+        Step([this] { LoadWater(); });
 
-    NewStart = QTime(9, 0);
-    NewEnd = QTime(9, 30);
-    const int tab = int(Val(ReadIni(QStringLiteral("Program"), QStringLiteral("Tab"), IniFile)));
-    if (tab > 0) SelectTab(tab);
-    const int firstDay = int(Val(ReadIni(QStringLiteral("Program"), QStringLiteral("FirstDay"), IniFile)));
-    if (firstDay > 0) CalView->SetFirstDayOfWeek(Qt::DayOfWeek(firstDay));
-    cmdView->setEnabled(false);
-    cmdDelete->setEnabled(false);
-    m_logDirty = false;
-    m_loading = false;
+        NewStart = QTime(9, 0);
+        NewEnd = QTime(9, 30);
+        // Settings out of range (a hand-edited file) keep the defaults.
+        const int tab = SettingInRange(QStringLiteral("Tab"), 1, Tab1->count(), 0);
+        if (tab > 0) SelectTab(tab);
+        const int firstDay = SettingInRange(QStringLiteral("FirstDay"), Qt::Monday, Qt::Sunday, 0);
+        if (firstDay > 0) CalView->SetFirstDayOfWeek(Qt::DayOfWeek(firstDay));
+        cmdView->setEnabled(false);
+        cmdDelete->setEnabled(false);
+        m_logDirty = false;
+    }
     DayView->SetScrollTime(QTime(6, 0));
 }
 
 void frmSched2::LoadMuscleGroups()
 {
-    const bool was = m_loading;
-    m_loading = true;
+    QScopedValueRollback<bool> loading(m_loading, true);
     cboMuscleGroup->clear();
     cboMuscleGroup->addItem(QStringLiteral("All"));
     SqlText = QStringLiteral("select distinct group from muscle_groups");
-    LibraryRS.Open(SqlText);
-    while (!LibraryRS.Eof()) {
-        cboMuscleGroup->addItem(Str(LibraryRS.Field(0)));
-        LibraryRS.MoveNext();
-    }
-    LibraryRS.Close();
+    ForEachRow(LibraryRS, SqlText, [this](Recordset& rs) { cboMuscleGroup->addItem(Str(rs.Field(0))); });
     cboMuscleGroup->setCurrentIndex(0);
-    m_loading = was;
 }
 
 void frmSched2::LoadToday()
 {
-    const bool was = m_loading;
-    m_loading = true;
-    LoadMuscleGroups();
+    {
+        QScopedValueRollback<bool> loading(m_loading, true);
+        LoadMuscleGroups();
 
-    cmdAddEndurance->setEnabled(false);
-    SqlText = QStringLiteral("select distinct exercise,Image from endurance_exercises  order by exercise");
-    ListView1->clear();
-    LibraryRS.Open(SqlText);
-    while (!LibraryRS.Eof()) {
-        const int image = int(Val(LibraryRS.Field(QStringLiteral("Image"))));
-        auto* item = new QListWidgetItem(Str(LibraryRS.Field(QStringLiteral("exercise"))), ListView1);
-        if (image > 0) item->setIcon(ExerciseIcon(image));
-        item->setData(Qt::UserRole, image);
-        LibraryRS.MoveNext();
+        cmdAddEndurance->setEnabled(false);
+        SqlText = QStringLiteral("select distinct exercise,Image from endurance_exercises  order by exercise");
+        ListView1->clear();
+        listfill::FillList(ListView1, LibraryRS, SqlText, AddExercise);
+
+        cbointerval->clear();
+        cbointerval->addItems({QStringLiteral("Hourly"), QStringLiteral("Half Hour"), QStringLiteral("15 Minutes"),
+                               QStringLiteral("10 Minutes"), QStringLiteral("5 Minutes")});
+        cbointerval->setCurrentIndex(SettingInRange(QStringLiteral("Interval"), 0, cbointerval->count() - 1, 0));
+        on_cbointerval_currentIndexChanged(cbointerval->currentIndex());
+
+        // One month, or two side by side: what the planner's own setting can hold.
+        const int months = SettingInRange(QStringLiteral("Cal"), 1, 2, 1);
+        if (!ReadIni(QStringLiteral("Program"), QStringLiteral("Cal"), IniFile).isEmpty()) CalView->SetMonths(months);
+
+        LoadWorkouts();
     }
-    LibraryRS.Close();
-
-    cbointerval->clear();
-    cbointerval->addItems({QStringLiteral("Hourly"), QStringLiteral("Half Hour"), QStringLiteral("15 Minutes"),
-                           QStringLiteral("10 Minutes"), QStringLiteral("5 Minutes")});
-    const int interval = int(Val(ReadIni(QStringLiteral("Program"), QStringLiteral("Interval"), IniFile)));
-    cbointerval->setCurrentIndex(qBound(0, interval, cbointerval->count() - 1));
-    on_cbointerval_currentIndexChanged(cbointerval->currentIndex());
-
-    const QString cal = ReadIni(QStringLiteral("Program"), QStringLiteral("Cal"), IniFile);
-    if (!cal.isEmpty()) CalView->SetMonths(qMax(1, int(Val(cal))));
-
-    LoadWorkouts();
-    m_loading = was;
     cmdAddEndurance->setEnabled(false);
     cmdAddWorkout->setEnabled(false);
 }
@@ -438,12 +452,8 @@ void frmSched2::LoadWorkouts()
         if (!group.isEmpty() && group != QLatin1String("All"))
             SqlText += QStringLiteral(" and muscle_group='") + SqlQuote(group) + QStringLiteral("'");
     }
-    LibraryRS.Open(SqlText);
-    while (!LibraryRS.Eof()) {
-        lstWorkouts->addItem(Str(LibraryRS.Field(0)));
-        LibraryRS.MoveNext();
-    }
-    LibraryRS.Close();
+    listfill::FillList(lstWorkouts, LibraryRS, SqlText,
+                       [](QListWidget* list, Recordset& rs) { list->addItem(Str(rs.Field(0))); });
 }
 
 void frmSched2::LoadExercises()
@@ -457,15 +467,7 @@ void frmSched2::LoadExercises()
     ListView1->clear();
     lblExerciseDesc->clear();
     cmdAddEndurance->setEnabled(false);
-    LibraryRS.Open(SqlText);
-    while (!LibraryRS.Eof()) {
-        const int image = int(Val(LibraryRS.Field(QStringLiteral("Image"))));
-        auto* item = new QListWidgetItem(Str(LibraryRS.Field(QStringLiteral("exercise"))), ListView1);
-        if (image > 0) item->setIcon(ExerciseIcon(image));
-        item->setData(Qt::UserRole, image);
-        LibraryRS.MoveNext();
-    }
-    LibraryRS.Close();
+    listfill::FillList(ListView1, LibraryRS, SqlText, AddExercise);
 }
 
 QDate frmSched2::SelectedDate() const { return CalView->Value(); }
@@ -482,28 +484,19 @@ void frmSched2::LoadDayItems()
     const QString id = CurrentUserID;
     const QString date = SqlDate(SelectedDate());
     lstItems->clear();
+    // One entry per row of a source, with the source's caption and icon.
+    const auto entryPerRow = [](const QString& caption) {
+        return [caption](QListWidget* list, Recordset&) { new QListWidgetItem(ItemIcon(caption), caption, list); };
+    };
     SqlText = QStringLiteral("select * from WeighIn where User_ID='") + id + QStringLiteral("' and date=#") + date + QStringLiteral("#");
-    UserRS.Open(SqlText);
-    while (!UserRS.Eof()) {
-        new QListWidgetItem(ItemIcon(QStringLiteral("Weigh In")), QStringLiteral("Weigh In"), lstItems);
-        UserRS.MoveNext();
-    }
-    UserRS.Close();
+    listfill::FillList(lstItems, UserRS, SqlText, entryPerRow(QStringLiteral("Weigh In")));
     SqlText = QStringLiteral("select * from wellness where User_ID='") + id + QStringLiteral("' and date=#") + date + QStringLiteral("#");
-    UserRS.Open(SqlText);
-    while (!UserRS.Eof()) {
-        new QListWidgetItem(ItemIcon(QStringLiteral("Wellness")), QStringLiteral("Wellness"), lstItems);
-        UserRS.MoveNext();
-    }
-    UserRS.Close();
+    listfill::FillList(lstItems, UserRS, SqlText, entryPerRow(QStringLiteral("Wellness")));
     SqlText = QStringLiteral("select * from setup_meals where User_ID=") + id + QStringLiteral(" and show=true order by [Position]");
-    UserRS.Open(SqlText);
-    while (!UserRS.Eof()) {
-        auto* item = new QListWidgetItem(ItemIcon(QStringLiteral("Meal")), Str(UserRS.Field(QStringLiteral("meal"))).trimmed(), lstItems);
-        item->setData(Qt::UserRole, UserRS.Field(QStringLiteral("Meal_ID")));
-        UserRS.MoveNext();
-    }
-    UserRS.Close();
+    listfill::FillList(lstItems, UserRS, SqlText, [](QListWidget* list, Recordset& rs) {
+        auto* item = new QListWidgetItem(ItemIcon(QStringLiteral("Meal")), Str(rs.Field(QStringLiteral("meal"))).trimmed(), list);
+        item->setData(Qt::UserRole, rs.Field(QStringLiteral("Meal_ID")));
+    });
 }
 
 void frmSched2::LoadNetCalories()
@@ -512,43 +505,26 @@ void frmSched2::LoadNetCalories()
     const QString date = SqlDate(SelectedDate());
 
     SqlText = QStringLiteral("select personal_measurements from User_Info where User_ID=") + id;
-    UserRS.Open(SqlText);
-    if (!UserRS.Eof()) lblLbs->setText(Str(UserRS.Field(QStringLiteral("personal_measurements"))));
-    UserRS.Close();
+    FirstRow(UserRS, SqlText,
+             [this](Recordset& rs) { lblLbs->setText(Str(rs.Field(QStringLiteral("personal_measurements")))); });
 
     double intake = 0;
     SqlText = QStringLiteral("select * from daily_nutrition where User_ID='") + id + QStringLiteral("' and date=#") + date
               + QStringLiteral("# and meal_id<>9999");
-    UserRS.Open(SqlText);
-    while (!UserRS.Eof()) {
-        intake += Val(UserRS.Field(QStringLiteral("calories")));
-        UserRS.MoveNext();
-    }
-    UserRS.Close();
+    ForEachRow(UserRS, SqlText, [&intake](Recordset& rs) { intake += Val(rs.Field(QStringLiteral("calories"))); });
 
     double bmr = 0;
-    bool found = false;
+    const auto takeWeighIn = [&](Recordset& rs) {
+        bmr = Val(rs.Field(QStringLiteral("bmr")));
+        m_dayWeight = Val(rs.Field(QStringLiteral("weight")));
+    };
     SqlText = QStringLiteral("select weight,bmr,date from WeighIn where User_ID ='") + id + QStringLiteral("' and date <=#") + date
               + QStringLiteral("# order by date");
-    UserRS.Open(SqlText);
-    while (!UserRS.Eof()) {
-        bmr = Val(UserRS.Field(QStringLiteral("bmr")));
-        m_dayWeight = Val(UserRS.Field(QStringLiteral("weight")));
-        found = true;
-        UserRS.MoveNext();
-    }
-    UserRS.Close();
+    const bool found = ForEachRow(UserRS, SqlText, takeWeighIn) > 0;
     if (!found) {
         // A day before every weigh-in takes the first one.
         SqlText = QStringLiteral("select weight,bmr,date from WeighIn where User_ID ='") + id + QStringLiteral("' order by date");
-        UserRS.Open(SqlText);
-        if (!UserRS.Eof()) {
-            bmr = Val(UserRS.Field(QStringLiteral("bmr")));
-            m_dayWeight = Val(UserRS.Field(QStringLiteral("weight")));
-        } else {
-            m_dayWeight = 0;
-        }
-        UserRS.Close();
+        if (!FirstRow(UserRS, SqlText, takeWeighIn)) m_dayWeight = 0;
     }
 
     const long burned = DayCalories();
@@ -566,21 +542,21 @@ void frmSched2::LoadNetCalories()
 
 void frmSched2::LoadWater()
 {
-    const bool was = m_loading;
-    m_loading = true;
+    QScopedValueRollback<bool> loading(m_loading, true);
     SqlText = QStringLiteral("select * from daily_water where User_ID=") + CurrentUserID + QStringLiteral(" and date=#")
               + SqlDate(SelectedDate()) + QStringLiteral("#");
-    UserRS.Open(SqlText);
-    if (UserRS.Eof()) txtWater->setText(QStringLiteral("0"));
-    else txtWater->setText(Str(UserRS.Field(QStringLiteral("water"))));
-    UserRS.Close();
-    m_loading = was;
+    QString water = QStringLiteral("0");
+    FirstRow(UserRS, SqlText, [&water](Recordset& rs) { water = Str(rs.Field(QStringLiteral("water"))); });
+    txtWater->setText(water);
 }
 
 void frmSched2::on_txtWater_textChanged(const QString& text)
 {
     if (m_loading) return;
     Guard([&] {
+        // The day's row is replaced: the old one stays unless the new one is written.
+        StoreTransaction transaction(UserConn);
+        RecordsetScope scope(UserRS);
         const QString date = SqlDate(SelectedDate());
         SqlText = QStringLiteral("delete * from daily_water where User_ID=") + CurrentUserID + QStringLiteral(" and date=#")
                   + date + QStringLiteral("#");
@@ -592,6 +568,7 @@ void frmSched2::on_txtWater_textChanged(const QString& text)
         UserRS.SetField(QStringLiteral("water"), Val(text));
         UserRS.Update();
         UserRS.Close();
+        transaction.Commit();
     });
 }
 
@@ -599,8 +576,7 @@ void frmSched2::on_txtWater_textChanged(const QString& text)
 
 void frmSched2::FormatLog()
 {
-    const bool was = m_loading;
-    m_loading = true;
+    QScopedValueRollback<bool> loading(m_loading, true);
     QFont f(QStringLiteral("ms sans serif"));
     f.setPointSize(10);
     RTB->document()->setDefaultFont(f);
@@ -611,7 +587,6 @@ void frmSched2::FormatLog()
     Combo3->setCurrentText(QStringLiteral("10"));
     Combo4->clear();
     Combo4->addItems({QStringLiteral("Black"), QStringLiteral("Red"), QStringLiteral("Green"), QStringLiteral("Blue")});
-    m_loading = was;
 }
 
 void frmSched2::ApplyLogFormat(int which)
@@ -636,24 +611,23 @@ void frmSched2::ApplyLogFormat(int which)
 
 void frmSched2::LoadNotes()
 {
-    const bool was = m_loading;
-    m_loading = true;
+    QScopedValueRollback<bool> loading(m_loading, true);
     SqlText = QStringLiteral("select * from daily_log where User_ID='") + CurrentUserID + QStringLiteral("' and date=#")
               + SqlDate(SelectedDate()) + QStringLiteral("#");
-    UserRS.Open(SqlText);
     QString text;
-    if (!UserRS.Eof()) text = Str(UserRS.Field(QStringLiteral("Log")));
-    UserRS.Close();
+    FirstRow(UserRS, SqlText, [&text](Recordset& rs) { text = Str(rs.Field(QStringLiteral("Log"))); });
     QFont f = RTB->document()->defaultFont();
     RTB->clear();
     RTB->document()->setDefaultFont(f);
     if (!text.isEmpty()) RichText::Read(text, *RTB->document());
-    m_loading = was;
 }
 
 void frmSched2::SaveLog()
 {
     const QDate day = m_loadedDate.isValid() ? m_loadedDate : SelectedDate();
+    // The day's log is replaced: the old one stays unless the new one is written.
+    StoreTransaction transaction(UserConn);
+    RecordsetScope scope(UserRS);
     SqlText = QStringLiteral("delete * from daily_log where User_ID ='") + CurrentUserID + QStringLiteral("' and date =#")
               + SqlDate(day) + QStringLiteral("#");
     UserConn.Execute(SqlText);
@@ -664,6 +638,7 @@ void frmSched2::SaveLog()
     UserRS.SetField(QStringLiteral("Log"), RichText::Write(*RTB->document()));
     UserRS.Update();
     UserRS.Close();
+    transaction.Commit();
     m_logDirty = false;
 }
 
@@ -702,15 +677,13 @@ void frmSched2::CalView_DblClick(const QDate& date)
         }
         SqlText = QStringLiteral("select * from calendar where date=#") + SqlDate(date) + QStringLiteral("# and User_ID='")
                   + CurrentUserID + QStringLiteral("'");
-        UserRS.Open(SqlText);
-        if (UserRS.Eof()) {
-            UserRS.Close();
-            return;
-        }
-        SelectedKey = Str(UserRS.Field(QStringLiteral("Key")));
-        SelectedName = SqlQuote(Str(UserRS.Field(QStringLiteral("Name"))));
-        const QString type = Str(UserRS.Field(QStringLiteral("WorkoutType")));
-        UserRS.Close();
+        QString type;
+        const bool found = FirstRow(UserRS, SqlText, [&type](Recordset& rs) {
+            SelectedKey = Str(rs.Field(QStringLiteral("Key")));
+            SelectedName = SqlQuote(Str(rs.Field(QStringLiteral("Name"))));
+            type = Str(rs.Field(QStringLiteral("WorkoutType")));
+        });
+        if (!found) return;
         if (type == QLatin1String("Exercise")) ShowModal(kExerciseLog);
         else if (type == QLatin1String("Strength")) ShowModal(kStrengthLog);
         AfterLog();
@@ -816,30 +789,27 @@ void frmSched2::DayView_Changed(int id, const QDateTime& start, const QDateTime&
     const QString name = SqlQuote(e->text);
     const QString date = SqlDate(SelectedDate());
     Guard([&] {
+        // The log's times and the calendar's move together.
+        StoreTransaction transaction(UserConn);
         if (type == QLatin1String("Strength"))
             SqlText = QStringLiteral("select * from Daily_Weights where User_ID='");
         else
             SqlText = QStringLiteral("select * from Daily_Exercise where User_ID='");
         SqlText += CurrentUserID + QStringLiteral("' and Date=#") + date + QStringLiteral("# and name='") + name
                    + QStringLiteral("' and key='") + key + QStringLiteral("'");
-        UserRS.Open(SqlText);
-        while (!UserRS.Eof()) {
-            UserRS.SetField(QStringLiteral("StartTime"), start);
-            UserRS.SetField(QStringLiteral("EndTime"), end);
-            UserRS.Update();
-            UserRS.MoveNext();
-        }
-        UserRS.Close();
+        ForEachRow(UserRS, SqlText, [&](Recordset& rs) {
+            rs.SetField(QStringLiteral("StartTime"), start);
+            rs.SetField(QStringLiteral("EndTime"), end);
+            rs.Update();
+        });
         SqlText = QStringLiteral("select * from calendar where User_ID='") + CurrentUserID + QStringLiteral("' and Date=#")
                   + date + QStringLiteral("# and key=") + key;
-        UserRS.Open(SqlText);
-        while (!UserRS.Eof()) {
-            UserRS.SetField(QStringLiteral("StartTime"), EntryTimeText(start));
-            UserRS.SetField(QStringLiteral("EndTime"), EntryTimeText(end));
-            UserRS.Update();
-            UserRS.MoveNext();
-        }
-        UserRS.Close();
+        ForEachRow(UserRS, SqlText, [&](Recordset& rs) {
+            rs.SetField(QStringLiteral("StartTime"), EntryTimeText(start));
+            rs.SetField(QStringLiteral("EndTime"), EntryTimeText(end));
+            rs.Update();
+        });
+        transaction.Commit();
     });
 }
 
@@ -863,6 +833,8 @@ void frmSched2::on_cmdDelete_clicked()
     const QString id_ = CurrentUserID;
     const QString date = SqlDate(SelectedDate());
     Guard([&] {
+        // The activity leaves every table at once or stays in all of them.
+        StoreTransaction transaction(UserConn);
         if (type == QLatin1String("Strength")) {
             UserConn.Execute(QStringLiteral("delete * from Daily_Weights where User_ID='") + id_ + QStringLiteral("' and Date=#")
                              + date + QStringLiteral("# and name='") + name + QStringLiteral("' and key='") + key
@@ -880,6 +852,7 @@ void frmSched2::on_cmdDelete_clicked()
                          + QStringLiteral("# and key='") + key + QStringLiteral("' and SPORT='") + name + QStringLiteral("'"));
         UserConn.Execute(QStringLiteral("delete * from Daily_Psych where User_ID='") + id_ + QStringLiteral("' and Date=#") + date
                          + QStringLiteral("# and name='") + name + QStringLiteral("' and key='") + key + QStringLiteral("'"));
+        transaction.Commit();
         DayView->RemoveEntry(id);
         LoadCalendarIcons(CalView, SelectedDate(), 1);
         LoadDayView();
@@ -902,9 +875,7 @@ void frmSched2::ShowDescription(QLabel* label, const QString& sql)
 {
     Guard([&] {
         SqlText = sql;
-        LibraryRS.Open(SqlText);
-        if (!LibraryRS.Eof()) label->setText(Str(LibraryRS.Field(0)));
-        LibraryRS.Close();
+        FirstRow(LibraryRS, SqlText, [label](Recordset& rs) { label->setText(Str(rs.Field(0))); });
     });
 }
 
@@ -979,9 +950,8 @@ void frmSched2::on_lstItems_itemClicked(QListWidgetItem* item)
 
 void frmSched2::on_cbointerval_currentIndexChanged(int index)
 {
-    static const int scales[] = {60, 30, 15, 10, 5};
-    if (index < 0 || index > 4) return;
-    DayView->SetScale(scales[index]);
+    if (index < 0 || index >= ScaleCount) return;
+    DayView->SetScale(Scales[index]);
     if (!m_loading) WriteIni(QStringLiteral("Program"), QStringLiteral("Interval"), QString::number(index), IniFile);
 }
 

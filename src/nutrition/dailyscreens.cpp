@@ -6,5 +6,5 @@
 void RegisterDailyNutritionScreens()
 {
     ui::RegisterScreen(QStringLiteral("frmNutrition"), [](QWidget* p) { return new frmNutrition(p); });
-    ui::RegisterScreen(QStringLiteral("frmChangeAmt"), [](QWidget* p) { return new frmChangeAmt(p); });
+    ui::RegisterScreen(QStringLiteral("frmChangeAmt"), [](QWidget* p) { return new frmChangeAmt(FoodPortion(), p); });
 }

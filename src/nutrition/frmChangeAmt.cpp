@@ -2,6 +2,8 @@
 #include "nutrition/dailynutrition.h"
 #include "core/regional.h"
 #include "core/routines.h"
+#include "core/rows.h"
+#include "core/widgets/ListFill.h"
 #include "core/shared.h"
 #include "core/ui.h"
 
@@ -13,21 +15,13 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
-QString frmChangeAmt::FoodLine;
-QString frmChangeAmt::FoodID;
-QString frmChangeAmt::MealID;
-QString frmChangeAmt::MealType;
-QString frmChangeAmt::MealDate;
-QString frmChangeAmt::NewLine;
-
-frmChangeAmt::frmChangeAmt(QWidget* parent) : QDialog(parent)
+frmChangeAmt::frmChangeAmt(const FoodPortion& portion, QWidget* parent) : QDialog(parent), m_portion(portion)
 {
     setObjectName(QStringLiteral("frmChangeAmt"));
     setWindowTitle(QStringLiteral("Change Amount"));
-    NewLine.clear();
 
-    const QString name = GetTabField(FoodLine, 2);
-    daily::SplitAmount(GetTabField(FoodLine, 3), &m_amount, &m_measure);
+    const QString name = GetTabField(m_portion.foodLine, 2);
+    daily::SplitAmount(GetTabField(m_portion.foodLine, 3), &m_amount, &m_measure);
 
     lblFood = new QLabel(name, this);
     lblFood->setObjectName(QStringLiteral("lblFood"));
@@ -77,20 +71,10 @@ void frmChangeAmt::FillUnits(const QString& measure)
     cboMeasure->clear();
     QString type;
     SqlText = QStringLiteral("select type from units where name='") + SqlQuote(measure) + QStringLiteral("'");
-    LibraryRS.Open(SqlText);
-    if (!LibraryRS.Eof())
-        type = Str(LibraryRS.Field(0));
-    LibraryRS.Close();
+    FirstRow(LibraryRS, SqlText, [&type](Recordset& rs) { type = Str(rs.Field(0)); });
     if (!type.isEmpty()) {
         SqlText = QStringLiteral("select * from units where type='") + SqlQuote(type) + QStringLiteral("'");
-        LibraryRS.Open(SqlText);
-        while (!LibraryRS.Eof()) {
-            const QVariant n = LibraryRS.Field(QStringLiteral("name"));
-            if (!IsNull(n))
-                cboMeasure->addItem(Str(n));
-            LibraryRS.MoveNext();
-        }
-        LibraryRS.Close();
+        listfill::FillList(cboMeasure, LibraryRS, SqlText, QStringLiteral("name"), QString(), true);
     }
     // A measure without a units row (a saved meal's "meal(s)") can only stay as it is.
     int i = cboMeasure->findText(measure, Qt::MatchFixedString);
@@ -101,25 +85,24 @@ void frmChangeAmt::FillUnits(const QString& measure)
     cboMeasure->setCurrentIndex(i);
 }
 
-QString frmChangeAmt::ChangeAmount(double newAmount, const QString& newMeasure, double oldAmount,
-                                   const QString& oldMeasure)
+QString frmChangeAmt::ChangeAmount(const FoodPortion& portion, double newAmount, const QString& newMeasure,
+                                   double oldAmount, const QString& oldMeasure)
 {
     // The unit factors first: GetConversion has a recordset and SqlText of its own.
     const double newSize = newAmount * GetConversion(newMeasure);
     const double oldConversion = GetConversion(oldMeasure);
-    if (MealID == QLatin1String("0"))
+    if (portion.mealId == QLatin1String("0"))
         SqlText = QStringLiteral("select * from daily_nutrition where User_ID='") + CurrentUserID +
-                  QStringLiteral("' and meal_id=9999 and type='") + SqlQuote(MealType) + QStringLiteral("' and food_id=") +
-                  FoodID;
+                  QStringLiteral("' and meal_id=9999 and type='") + SqlQuote(portion.mealType) +
+                  QStringLiteral("' and food_id=") + portion.foodId;
     else
         SqlText = QStringLiteral("select * from daily_nutrition where User_ID='") + CurrentUserID +
-                  QStringLiteral("' and meal_id=") + MealID + QStringLiteral(" and User_ID = '") + CurrentUserID +
-                  QStringLiteral("' and date = #") + MealDate + QStringLiteral("# and food_id=") + FoodID;
+                  QStringLiteral("' and meal_id=") + portion.mealId + QStringLiteral(" and User_ID = '") + CurrentUserID +
+                  QStringLiteral("' and date = #") + portion.mealDate + QStringLiteral("# and food_id=") + portion.foodId;
+    RecordsetScope scope(UserRS2);
     UserRS2.Open(SqlText);
-    if (UserRS2.Eof()) {
-        UserRS2.Close();
+    if (UserRS2.Eof())
         return QString();
-    }
     UserRS2.SetField(QStringLiteral("amount"), newAmount);
     UserRS2.SetField(QStringLiteral("Measure"), newMeasure);
     for (int p = daily::FirstScaled; p <= daily::LastScaled && p < UserRS2.FieldCount(); ++p) {
@@ -137,7 +120,6 @@ QString frmChangeAmt::ChangeAmount(double newAmount, const QString& newMeasure, 
         line << daily::ListNumber(Val(UserRS2.Field(QString::fromLatin1(c))));
     for (int p = 13; p <= daily::LastScaled && p < UserRS2.FieldCount(); ++p)
         line << daily::ListNumber(Val(UserRS2.Field(p)));
-    UserRS2.Close();
     return line.join(QLatin1Char('\t'));
 }
 
@@ -146,13 +128,13 @@ void frmChangeAmt::on_cmdChange_clicked()
     const double amount = Val(txtAmt->text());
     const QString measure = cboMeasure->currentText();
     if (amount > 0 && (txtAmt->text().trimmed() != m_amount || measure != m_measure)) {
-        Guard([&] { NewLine = ChangeAmount(amount, measure, Val(m_amount), m_measure); });
+        Guard([&] { m_newLine = ChangeAmount(m_portion, amount, measure, Val(m_amount), m_measure); });
     }
     accept();
 }
 
 void frmChangeAmt::on_cmdCancel_clicked()
 {
-    NewLine.clear();
+    m_newLine.clear();
     reject();
 }

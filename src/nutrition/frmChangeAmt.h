@@ -2,12 +2,9 @@
 // Change Amount: sets the portion of one diary row (or of one ingredient of a saved meal) and
 // scales all its figures, points and calories included, by the ratio of the portions.
 //
-// The caller hands over the line, the food, the meal and the date in the strings below, runs
-// the dialog, and replaces its selected line with NewLine when that is not empty:
-//   frmChangeAmt::FoodLine = line text (Food_ID, Name, "amount measure", ... tab-separated);
-//   frmChangeAmt::FoodID = "123"; frmChangeAmt::MealID = "2" (or "0" for a saved meal's
-//   ingredient, whose meal's Food_ID is then in MealType); frmChangeAmt::MealDate = "YYYY-MM-DD";
-//   ShowModal("frmChangeAmt");
+// The caller hands over the line and the row it stands for in a FoodPortion, runs the
+// dialog, and replaces its selected line with NewLine() when that is not empty:
+//   frmChangeAmt dialog(portion, parent); ShowModal(&dialog); line = dialog.NewLine();
 #include <QDialog>
 #include <QString>
 
@@ -16,22 +13,27 @@ class QLineEdit;
 class QComboBox;
 class QPushButton;
 
+// One diary line and the row it stands for.
+struct FoodPortion {
+    QString foodLine;   // Food_ID, Name, "amount measure", ... tab-separated
+    QString foodId;
+    QString mealId;     // "0" for an ingredient of a saved meal
+    QString mealType;   // the saved meal's Food_ID, when mealId is "0"
+    QString mealDate;   // "YYYY-MM-DD"
+};
+
 class frmChangeAmt : public QDialog {
     Q_OBJECT
 public:
-    explicit frmChangeAmt(QWidget* parent = nullptr);
+    explicit frmChangeAmt(const FoodPortion& portion = FoodPortion(), QWidget* parent = nullptr);
 
-    static QString FoodLine;
-    static QString FoodID;
-    static QString MealID;
-    static QString MealType;   // the saved meal's Food_ID, when MealID is "0"
-    static QString MealDate;
-    static QString NewLine;    // the changed line, "" when nothing was changed
+    // The changed line, "" when nothing was changed.
+    const QString& NewLine() const { return m_newLine; }
 
     // Scales the row in the store; returns the new line or "" when no row was found. Public so
     // that the rule can be run without the dialog's fields.
-    static QString ChangeAmount(double newAmount, const QString& newMeasure, double oldAmount,
-                                const QString& oldMeasure);
+    static QString ChangeAmount(const FoodPortion& portion, double newAmount, const QString& newMeasure,
+                                double oldAmount, const QString& oldMeasure);
 
     QLabel* lblFood = nullptr;
     QLabel* lblOriginal = nullptr;     // "Original Amount"
@@ -46,6 +48,8 @@ public slots:
 
 private:
     void FillUnits(const QString& measure);
+    FoodPortion m_portion;
+    QString m_newLine;
     QString m_amount;    // what the dialog opened with
     QString m_measure;
 };

@@ -9,9 +9,12 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include "core/rows.h"
 #include "core/shared.h"
+#include "core/store/transaction.h"
 #include "core/store/value.h"
 #include "core/ui.h"
+#include "core/widgets/ListFill.h"
 
 frmFoodCategories::frmFoodCategories(QWidget* parent) : QDialog(parent)
 {
@@ -71,12 +74,7 @@ void frmFoodCategories::LoadTypes()
     cboType->blockSignals(true);
     cboType->clear();
     SqlText = QStringLiteral("select distinct type from food_groups");
-    LibraryRS.Open(SqlText, &LibraryConn);
-    while (!LibraryRS.Eof()) {
-        cboType->addItem(Str(LibraryRS.Field(0)));
-        LibraryRS.MoveNext();
-    }
-    LibraryRS.Close();
+    ForEachRow(LibraryRS, SqlText, [this](Recordset& rs) { cboType->addItem(Str(rs.Field(0))); });
     const int foods = cboType->findText(QStringLiteral("Foods"));
     cboType->setCurrentIndex(foods >= 0 ? foods : (cboType->count() ? 0 : -1));
     cboType->blockSignals(false);
@@ -87,13 +85,10 @@ void frmFoodCategories::LoadGroups()
 {
     lstGroups->clear();
     SqlText = "select Group,Group_ID from food_groups where type='" + SqlQuote(cboType->currentText()) + "'";
-    LibraryRS.Open(SqlText, &LibraryConn);
-    while (!LibraryRS.Eof()) {
-        auto* it = new QListWidgetItem(Str(LibraryRS.Field(0)), lstGroups);
-        it->setData(Qt::UserRole, LibraryRS.Field(1));
-        LibraryRS.MoveNext();
-    }
-    LibraryRS.Close();
+    listfill::FillList(lstGroups, LibraryRS, SqlText, [](QListWidget* list, Recordset& rs) {
+        auto* it = new QListWidgetItem(Str(rs.Field(0)), list);
+        it->setData(Qt::UserRole, rs.Field(1));
+    });
 }
 
 void frmFoodCategories::on_cmdAdd_clicked()
@@ -104,13 +99,11 @@ void frmFoodCategories::on_cmdAdd_clicked()
         return;
     SqlText = "select * from food_groups where food_groups.group='" + SqlQuote(name) + "' and type='" +
               SqlQuote(type) + "'";
-    LibraryRS.Open(SqlText, &LibraryConn);
-    const bool exists = !LibraryRS.Eof();
-    LibraryRS.Close();
-    if (exists) {
+    if (FirstRow(LibraryRS, SqlText, [](Recordset&) {})) {
         MsgBox(QStringLiteral("This food group already exists."), vbOKOnly + vbInformation, QStringLiteral("Message"));
         return;
     }
+    RecordsetScope scope(LibraryRS);
     LibraryRS.Open(QStringLiteral("food_groups"), &LibraryConn);
     LibraryRS.AddNew();
     LibraryRS.SetField("Group", name);
@@ -136,7 +129,10 @@ void frmFoodCategories::on_cmdDelete_clicked()
                QStringLiteral("Action")) != vbYes)
         return;
     const QString id = Str(it->data(Qt::UserRole));
+    // The category and its foods go together.
+    StoreTransaction transaction(LibraryConn);
     LibraryConn.Execute("delete * from food_groups where group_id=" + id);
     LibraryConn.Execute("delete * from foods where group_id=" + id);
+    transaction.Commit();
     LoadGroups();
 }

@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QButtonGroup>
 #include <QComboBox>
+#include <QFontMetrics>
 #include <QFormLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
@@ -10,20 +11,22 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QScopedValueRollback>
 #include <QSplitter>
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
 #include "core/regional.h"
 #include "core/routines.h"
+#include "core/rows.h"
 #include "core/shared.h"
+#include "core/store/transaction.h"
 #include "core/store/value.h"
 #include "core/ui.h"
 #include "core/widgets/Chart.h"
 #include "core/widgets/Grid.h"
+#include "core/widgets/ListFill.h"
 #include "nutrition/frmMoveFood.h"
-
-QString frmFoods::FoodName;
 
 namespace {
 
@@ -44,31 +47,30 @@ void Inform(const QString& text) { MsgBox(text, vbOKOnly + vbInformation, kMessa
 
 }  // namespace
 
-frmFoods::frmFoods(QWidget* parent) : QDialog(parent)
+frmFoods::frmFoods(QWidget* parent, const QString& foodName) : QDialog(parent)
 {
     setObjectName(QStringLiteral("frmFoods"));
     setWindowTitle(QStringLiteral("Foods Library"));
     buildUi();
-    Guard([this] {
-        m_loading = true;
-        FormatGrid();
-        FillUnits(QString());
-        m_loading = false;
+    Guard([this, foodName] {
+        {
+            QScopedValueRollback<bool> loading(m_loading, true);
+            FormatGrid();
+            FillUnits(QString());
+        }
         on_cmdFoodType_clicked(0);
         cmdSave->setEnabled(false);
         cmdDelete->setEnabled(false);
-        if (!FoodName.isEmpty()) {
-            const QString name = FoodName;
-            FoodName.clear();
-            showFood(name);
-        }
+        if (!foodName.isEmpty())
+            showFood(foodName);
     });
     CenterForm(this);
 }
 
 void frmFoods::buildUi()
 {
-    resize(1120, 720);
+    // Within a 1280x720 screen, frame included.
+    resize(1120, 660);
     auto* split = new QSplitter(Qt::Horizontal, this);
 
     // The library, its categories, the search and the list.
@@ -122,9 +124,13 @@ void frmFoods::buildUi()
     lstFoods->setRootIsDecorated(false);
     lstFoods->setUniformRowHeights(true);
     lstFoods->setAlternatingRowColors(true);
-    lstFoods->setColumnWidth(colFood, 230);
-    lstFoods->setColumnWidth(colAmount, 80);
+    // The name takes what the other columns leave; the full name is each line's tooltip.
+    lstFoods->header()->setStretchLastSection(false);
+    lstFoods->header()->setSectionResizeMode(colFood, QHeaderView::Stretch);
+    lstFoods->header()->setMinimumSectionSize(60);
+    lstFoods->setColumnWidth(colAmount, 90);
     lstFoods->setColumnWidth(colGroup, 150);
+    lstFoods->setMinimumWidth(320);
     lstFoods->setAccessibleName(QStringLiteral("Foods"));
     lv->addWidget(lstFoods, 1);
 
@@ -187,9 +193,9 @@ void frmFoods::buildUi()
 
     split->addWidget(left);
     split->addWidget(right);
-    split->setStretchFactor(0, 2);
-    split->setStretchFactor(1, 3);
-    split->setSizes({380, 740});
+    split->setStretchFactor(0, 1);
+    split->setStretchFactor(1, 1);
+    split->setSizes({520, 600});
 
     // Commands.
     auto* buttons = new QHBoxLayout;
@@ -267,17 +273,17 @@ void frmFoods::FormatGrid()
     struct Row { QString name, rda, bare; };
     QList<Row> rows;
     SqlText = QStringLiteral("select * from Nutrients order by Nutrient_ID");
-    LibraryRS.Open(SqlText, &LibraryConn);
-    if (!LibraryRS.Eof())
-        LibraryRS.MoveNext();   // calories has its own field
-    while (!LibraryRS.Eof()) {
-        const QString measure = Str(LibraryRS.Field("Measure"));
-        const double rda = Val(LibraryRS.Field("RDA"));
-        rows.append({Str(LibraryRS.Field("Nutrient")) + " (" + measure + ")",
+    bool first = true;
+    ForEachRow(LibraryRS, SqlText, [&](Recordset& rs) {
+        if (first) {
+            first = false;   // calories has its own field
+            return;
+        }
+        const QString measure = Str(rs.Field("Measure"));
+        const double rda = Val(rs.Field("RDA"));
+        rows.append({Str(rs.Field("Nutrient")) + " (" + measure + ")",
                      rda > 0 ? Num(rda) + " " + measure : QString(), Num(rda)});
-        LibraryRS.MoveNext();
-    }
-    LibraryRS.Close();
+    });
     SS1->SetMaxRows(rows.size());
     for (int i = 0; i < rows.size(); ++i) {
         SS1->SetText(i + 1, gcNutrient, rows[i].name);
@@ -293,51 +299,34 @@ void frmFoods::FormatGrid()
 
 void frmFoods::FillUnits(const QString& measure)
 {
-    const bool wasLoading = m_loading;
-    m_loading = true;
+    QScopedValueRollback<bool> loading(m_loading, true);
     cboMeasure->clear();
     if (measure.isEmpty()) {
         SqlText = QStringLiteral("select * from units where type <> 'distance' order by type desc");
-        LibraryRS.Open(SqlText, &LibraryConn);
-        while (!LibraryRS.Eof()) {
-            if (!IsNull(LibraryRS.Field("name")))
-                cboMeasure->addItem(Str(LibraryRS.Field("name")));
-            LibraryRS.MoveNext();
-        }
-        LibraryRS.Close();
+        listfill::FillList(cboMeasure, LibraryRS, SqlText, QStringLiteral("name"), QString(), true);
     } else {
         QString type;
         SqlText = "select type from units where name='" + SqlQuote(measure) + "'";
-        LibraryRS.Open(SqlText, &LibraryConn);
-        if (!LibraryRS.Eof())
-            type = Str(LibraryRS.Field("type"));
-        LibraryRS.Close();
+        FirstRow(LibraryRS, SqlText, [&type](Recordset& rs) { type = Str(rs.Field("type")); });
         if (!type.isEmpty()) {
             SqlText = "select * from units where type='" + SqlQuote(type) + "'";
-            LibraryRS.Open(SqlText, &LibraryConn);
-            while (!LibraryRS.Eof()) {
-                if (!IsNull(LibraryRS.Field("name")))
-                    cboMeasure->addItem(Str(LibraryRS.Field("name")));
-                LibraryRS.MoveNext();
-            }
-            LibraryRS.Close();
+            listfill::FillList(cboMeasure, LibraryRS, SqlText, QStringLiteral("name"), QString(), true);
         } else {
             // A measure without a units row converts into nothing: it is the only choice.
             cboMeasure->addItem(measure);
         }
     }
     cboMeasure->setCurrentIndex(-1);
-    m_loading = wasLoading;
 }
 
 double frmFoods::GetUnit(const QString& name)
 {
     double result = 0.0;
     SqlText = "select conversion from units where name='" + SqlQuote(name) + "'";
-    LibraryRS.Open(SqlText, &LibraryConn);
-    if (!LibraryRS.Eof() && !IsNull(LibraryRS.Field(0)))
-        result = Val(LibraryRS.Field(0));
-    LibraryRS.Close();
+    FirstRow(LibraryRS, SqlText, [&result](Recordset& rs) {
+        if (!IsNull(rs.Field(0)))
+            result = Val(rs.Field(0));
+    });
     return result;
 }
 
@@ -345,26 +334,16 @@ void frmFoods::GetUnits(QComboBox* combo, const QString& unit)
 {
     QString name, unitType;
     SqlText = "select * from units where units!name = '" + SqlQuote(unit) + "'";
-    LibraryRS.Open(SqlText, &LibraryConn);
-    if (!LibraryRS.Eof()) {
-        name = Str(LibraryRS.Field("name"));
-        unitType = Str(LibraryRS.Field("unit_type"));
-    }
-    LibraryRS.Close();
+    FirstRow(LibraryRS, SqlText, [&](Recordset& rs) {
+        name = Str(rs.Field("name"));
+        unitType = Str(rs.Field("unit_type"));
+    });
     combo->clear();
     SqlText = "select * from units where unit_type = '" + SqlQuote(unitType) + "' order by name";
-    LibraryRS.Open(SqlText, &LibraryConn);
-    if (LibraryRS.Eof()) {
-        LibraryRS.Close();
+    if (listfill::FillList(combo, LibraryRS, SqlText, QStringLiteral("name"), QString(), true) == 0) {
         SqlText = QStringLiteral("select * from units ");
-        LibraryRS.Open(SqlText, &LibraryConn);
+        listfill::FillList(combo, LibraryRS, SqlText, QStringLiteral("name"), QString(), true);
     }
-    while (!LibraryRS.Eof()) {
-        if (!IsNull(LibraryRS.Field("name")))
-            combo->addItem(Str(LibraryRS.Field("name")));
-        LibraryRS.MoveNext();
-    }
-    LibraryRS.Close();
     SelectListItem(combo, name.isEmpty() ? unit : name);
 }
 
@@ -379,7 +358,7 @@ void frmFoods::LoadFoodData()
     QTreeWidgetItem* line = selectedLine();
     if (!line)
         return;
-    m_loading = true;
+    QScopedValueRollback<bool> loading(m_loading, true);
     for (int i = 1; i <= 3; ++i)
         Chart1->SetPieValue(i, 0);
 
@@ -394,25 +373,24 @@ void frmFoods::LoadFoodData()
         SqlText = "select * from foods a, food_groups b where b.group='" + SqlQuote(group) +
                   "' and a.food_id=" + foodId + " and a.group_id=b.group_id";
     }
-    LibraryRS.Open(SqlText, &LibraryConn);
-    if (LibraryRS.Eof()) {
-        LibraryRS.Close();
-        m_loading = false;
-        return;
-    }
-    txtFood->setText(Str(LibraryRS.Field("Name")));
-    txtAmount->setText(Str(LibraryRS.Field("amount")));
-    const QString measure = Str(LibraryRS.Field("Measure"));
     // FillUnits uses the shared recordset: keep what is still needed of the row first.
-    const double calories = Val(LibraryRS.Field("calories"));
-    const double protein = Val(LibraryRS.Field("protein"));
-    const double carbs = Val(LibraryRS.Field("Carbs"));
-    const double fat = Val(LibraryRS.Field("Fat"));
-    const QString points = Str(LibraryRS.Field("points"));
+    QString measure, points;
+    double calories = 0, protein = 0, carbs = 0, fat = 0;
     QStringList amounts;
-    for (int row = 1; row <= SS1->MaxRows(); ++row)
-        amounts << (FoodsOffset + row < LibraryRS.FieldCount() ? Str(LibraryRS.Field(FoodsOffset + row)) : QString());
-    LibraryRS.Close();
+    const bool found = FirstRow(LibraryRS, SqlText, [&](Recordset& rs) {
+        txtFood->setText(Str(rs.Field("Name")));
+        txtAmount->setText(Str(rs.Field("amount")));
+        measure = Str(rs.Field("Measure"));
+        calories = Val(rs.Field("calories"));
+        protein = Val(rs.Field("protein"));
+        carbs = Val(rs.Field("Carbs"));
+        fat = Val(rs.Field("Fat"));
+        points = Str(rs.Field("points"));
+        for (int row = 1; row <= SS1->MaxRows(); ++row)
+            amounts << (FoodsOffset + row < rs.FieldCount() ? Str(rs.Field(FoodsOffset + row)) : QString());
+    });
+    if (!found)
+        return;
 
     FillUnits(measure);
     SelectListItem(cboMeasure, measure);
@@ -444,13 +422,11 @@ void frmFoods::LoadFoodData()
     }
     cmdDelete->setEnabled(true);
     cmdSave->setEnabled(false);
-    m_loading = false;
 }
 
 void frmFoods::clearForm()
 {
-    const bool wasLoading = m_loading;
-    m_loading = true;
+    QScopedValueRollback<bool> loading(m_loading, true);
     lstFoods->setCurrentItem(nullptr);
     lstFoods->clearSelection();
     txtFood->clear();
@@ -463,7 +439,6 @@ void frmFoods::clearForm()
     cmdDelete->setEnabled(false);
     FillUnits(QString());
     cmdSave->setEnabled(false);
-    m_loading = wasLoading;
 }
 
 void frmFoods::ListCategory()
@@ -471,28 +446,26 @@ void frmFoods::ListCategory()
     if (cboGroups->currentIndex() < 0)
         return;
     clearForm();
-    m_loading = true;
+    QScopedValueRollback<bool> loading(m_loading, true);
     m_fromSearch = false;
     lstFoods->clear();
     SqlText = "select * from foods, food_groups where food_groups.group = '" + SqlQuote(cboGroups->currentText()) +
               "' and food_groups.group_id=foods.group_id order by name";
-    LibraryRS.Open(SqlText, &LibraryConn);
     QList<QTreeWidgetItem*> lines;
-    while (!LibraryRS.Eof()) {
+    ForEachRow(LibraryRS, SqlText, [&lines](Recordset& rs) {
         auto* it = new QTreeWidgetItem;
-        it->setText(colFood, Str(LibraryRS.Field("Name")));
-        it->setText(colAmount, Str(LibraryRS.Field("amount")) + " " + Str(LibraryRS.Field("Measure")));
-        it->setText(colGroupID, Str(LibraryRS.Field(1)));
-        it->setText(colFoodID, Str(LibraryRS.Field(0)));
-        it->setData(0, Qt::UserRole, LibraryRS.Field(0));
+        it->setText(colFood, Str(rs.Field("Name")));
+        it->setToolTip(colFood, it->text(colFood));
+        it->setText(colAmount, Str(rs.Field("amount")) + " " + Str(rs.Field("Measure")));
+        it->setText(colGroupID, Str(rs.Field(1)));
+        it->setText(colFoodID, Str(rs.Field(0)));
+        it->setData(0, Qt::UserRole, rs.Field(0));
         lines << it;
-        LibraryRS.MoveNext();
-    }
-    LibraryRS.Close();
+    });
     lstFoods->addTopLevelItems(lines);
     lstFoods->setCurrentItem(nullptr);
+    fitGroupColumn();
     cmdSave->setEnabled(false);
-    m_loading = false;
 }
 
 void frmFoods::SearchFoods()
@@ -506,37 +479,49 @@ void frmFoods::SearchFoods()
         filter = "like '%" + text + "%'";
 
     clearForm();
-    m_loading = true;
-    m_fromSearch = true;
-    cboGroups->setCurrentIndex(-1);   // a line's group comes from the line itself
-    lstFoods->clear();
-    SqlText = "select * from foods a, food_groups b where name " + filter +
-              " and a.group_id = b.group_id and a.group_id <> 65 order by a.name";
-    LibraryRS.Open(SqlText, &LibraryConn);
     QList<QTreeWidgetItem*> lines;
-    while (!LibraryRS.Eof()) {
-        const QVariant groupId = LibraryRS.Field(1);
-        if (Val(groupId) != MealsGroup) {
-            QString group = Str(LibraryRS.Field("Group"));
+    {
+        QScopedValueRollback<bool> loading(m_loading, true);
+        m_fromSearch = true;
+        cboGroups->setCurrentIndex(-1);   // a line's group comes from the line itself
+        lstFoods->clear();
+        SqlText = "select * from foods a, food_groups b where name " + filter +
+                  " and a.group_id = b.group_id and a.group_id <> 65 order by a.name";
+        ForEachRow(LibraryRS, SqlText, [&lines](Recordset& rs) {
+            const QVariant groupId = rs.Field(1);
+            if (Val(groupId) == MealsGroup)
+                return;
+            QString group = Str(rs.Field("Group"));
             if (group == kFavorites)
                 group = QStringLiteral("My Favorites");
             auto* it = new QTreeWidgetItem;
-            it->setText(colFood, Str(LibraryRS.Field("Name")));
-            it->setText(colAmount, Str(LibraryRS.Field("amount")) + " " + Str(LibraryRS.Field("Measure")));
+            it->setText(colFood, Str(rs.Field("Name")));
+            it->setToolTip(colFood, it->text(colFood));
+            it->setText(colAmount, Str(rs.Field("amount")) + " " + Str(rs.Field("Measure")));
             it->setText(colGroup, group);
+            it->setToolTip(colGroup, group);
             it->setText(colGroupID, Str(groupId));
-            it->setText(colFoodID, Str(LibraryRS.Field(0)));
-            it->setData(0, Qt::UserRole, LibraryRS.Field(0));
+            it->setText(colFoodID, Str(rs.Field(0)));
+            it->setData(0, Qt::UserRole, rs.Field(0));
             lines << it;
-        }
-        LibraryRS.MoveNext();
+        });
+        lstFoods->addTopLevelItems(lines);
+        lstFoods->setCurrentItem(nullptr);
+        fitGroupColumn();
     }
-    LibraryRS.Close();
-    lstFoods->addTopLevelItems(lines);
-    lstFoods->setCurrentItem(nullptr);
-    m_loading = false;
     if (lines.isEmpty())
         Inform(QStringLiteral("Food not found."));
+}
+
+void frmFoods::fitGroupColumn()
+{
+    // Wide enough for the groups shown, within reason; a cut group has its tooltip.
+    constexpr int widest = 220;
+    const QFontMetrics fm(lstFoods->font());
+    int width = fm.horizontalAdvance(lstFoods->headerItem()->text(colGroup)) + 24;
+    for (int i = 0; i < lstFoods->topLevelItemCount() && width < widest; ++i)
+        width = qMax(width, fm.horizontalAdvance(lstFoods->topLevelItem(i)->text(colGroup)) + 16);
+    lstFoods->setColumnWidth(colGroup, qMin(width, widest));
 }
 
 void frmFoods::selectFoodId(long foodId)
@@ -571,18 +556,16 @@ void frmFoods::showFood(const QString& name)
 void frmFoods::on_cmdFoodType_clicked(int index)
 {
     cmdFoodType[index]->setChecked(true);
-    m_loading = true;
-    cboGroups->clear();
-    SqlText = index == 0 ? QStringLiteral("select * from food_groups where type = 'Foods' ")
-                         : QStringLiteral("select * from food_groups where type = 'Menus'");
-    LibraryRS.Open(SqlText, &LibraryConn);
-    while (!LibraryRS.Eof()) {
-        cboGroups->addItem(Str(LibraryRS.Field("Group")), LibraryRS.Field("Group_ID"));
-        LibraryRS.MoveNext();
+    {
+        QScopedValueRollback<bool> loading(m_loading, true);
+        cboGroups->clear();
+        SqlText = index == 0 ? QStringLiteral("select * from food_groups where type = 'Foods' ")
+                             : QStringLiteral("select * from food_groups where type = 'Menus'");
+        ForEachRow(LibraryRS, SqlText, [this](Recordset& rs) {
+            cboGroups->addItem(Str(rs.Field("Group")), rs.Field("Group_ID"));
+        });
+        cboGroups->setCurrentIndex(-1);
     }
-    LibraryRS.Close();
-    cboGroups->setCurrentIndex(-1);
-    m_loading = false;
     clearForm();
     lstFoods->clear();
 }
@@ -609,7 +592,7 @@ void frmFoods::on_SS1_edited(int row, int col)
         return;
     const double rda = SS1->Value(row, gcRDAValue);
     if (rda > 0) {
-        m_loading = true;
+        QScopedValueRollback<bool> loading(m_loading, true);
         if (col == gcAmount) {
             const double amount = SS1->Value(row, gcAmount);
             if (amount > 0)
@@ -619,7 +602,6 @@ void frmFoods::on_SS1_edited(int row, int col)
             if (percent > 0)
                 SS1->SetText(row, gcAmount, Num(regional::Round(percent * rda / 100, 2)));
         }
-        m_loading = false;
     }
     cmdSave->setEnabled(true);
 }
@@ -663,11 +645,10 @@ void frmFoods::on_cmdSave_clicked()
     }
 
     const long previous = line ? long(Val(line->text(colFoodID))) : 0;
+    RecordsetScope scope(LibraryRS);
     if (!line) {
         SqlText = "select * from Foods where name='" + SqlQuote(txtFood->text()) + "'";
-        LibraryRS.Open(SqlText, &LibraryConn);
-        const bool exists = !LibraryRS.Eof();
-        LibraryRS.Close();
+        const bool exists = FirstRow(LibraryRS, SqlText, [](Recordset&) {});
         if (exists) {
             Inform(QStringLiteral("This food exists in the database.  Please choose another name."));
             return;
@@ -728,12 +709,13 @@ void frmFoods::copyOrMove(bool move)
                     : QStringLiteral("Please save this food before copying it."));
         return;
     }
-    frmMoveFood::FoodName = line->text(colFood);
-    frmMoveFood::Mode = move ? QStringLiteral("move") : QStringLiteral("copy");
-    frmMoveFood::Result.clear();
-    frmMoveFood dlg(this);
-    ShowModal(&dlg);
-    if (frmMoveFood::Result == QLatin1String("complete")) {
+    bool completed = false;
+    {
+        frmMoveFood dlg(line->text(colFood), move ? frmMoveFood::Move : frmMoveFood::Copy, this);
+        ShowModal(&dlg);
+        completed = dlg.Completed();
+    }
+    if (completed) {
         if (m_fromSearch)
             SearchFoods();
         else

@@ -16,10 +16,8 @@ class Chart;
 class frmFoods : public QDialog {
     Q_OBJECT
 public:
-    explicit frmFoods(QWidget* parent = nullptr);
-
-    // A food's name handed in by the caller: the view opens showing that food. Emptied at opening.
-    static QString FoodName;
+    // `foodName`: a food handed in by the caller; the view opens showing it.
+    explicit frmFoods(QWidget* parent = nullptr, const QString& foodName = QString());
 
     // Columns of lstFoods, and of the nutrient grid SS1.
     enum ListColumn { colFood = 0, colAmount = 1, colGroup = 2, colGroupID = 3, colFoodID = 4 };
@@ -79,6 +77,7 @@ private:
     void showFood(const QString& name);
     QTreeWidgetItem* selectedLine() const;
     void selectFoodId(long foodId);
+    void fitGroupColumn();
 
     bool m_loading = false;
     bool m_fromSearch = false;     // lstFoods holds search lines (with groups), not a category

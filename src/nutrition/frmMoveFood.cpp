@@ -6,15 +6,14 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include "core/rows.h"
 #include "core/shared.h"
 #include "core/store/value.h"
 #include "core/ui.h"
+#include "core/widgets/ListFill.h"
 
-QString frmMoveFood::FoodName;
-QString frmMoveFood::Mode;
-QString frmMoveFood::Result;
-
-frmMoveFood::frmMoveFood(QWidget* parent) : QDialog(parent)
+frmMoveFood::frmMoveFood(const QString& foodName, Mode mode, QWidget* parent)
+    : QDialog(parent), m_foodName(foodName), m_mode(mode)
 {
     setObjectName(QStringLiteral("frmMoveFood"));
     setWindowTitle(QStringLiteral("Move Food"));
@@ -41,13 +40,10 @@ frmMoveFood::frmMoveFood(QWidget* parent) : QDialog(parent)
 
     Guard([this] {
         SqlText = QStringLiteral("select * from food_groups where type = 'Menus' or type='Foods' order by group");
-        LibraryRS.Open(SqlText, &LibraryConn);
-        while (!LibraryRS.Eof()) {
-            auto* it = new QListWidgetItem(Str(LibraryRS.Field("Group")), lstGroups);
-            it->setData(Qt::UserRole, LibraryRS.Field("Group_ID"));
-            LibraryRS.MoveNext();
-        }
-        LibraryRS.Close();
+        listfill::FillList(lstGroups, LibraryRS, SqlText, [](QListWidget* list, Recordset& rs) {
+            auto* it = new QListWidgetItem(Str(rs.Field("Group")), list);
+            it->setData(Qt::UserRole, rs.Field("Group_ID"));
+        });
     });
     CenterForm(this);
 }
@@ -58,18 +54,17 @@ void frmMoveFood::on_cmdOK_clicked()
     if (!dest)
         return;
     const QVariant groupId = dest->data(Qt::UserRole);
-    const bool move = Mode == QLatin1String("move");
+    const bool move = m_mode == Move;
     if (move &&
-        MsgBox("Are you sure you want to permanently move " + FoodName + " to the group " + dest->text() + "?",
+        MsgBox("Are you sure you want to permanently move " + m_foodName + " to the group " + dest->text() + "?",
                vbYesNo + vbQuestion, QStringLiteral("Action")) != vbYes)
         return;
 
-    SqlText = "Select * from foods where foods.name='" + SqlQuote(FoodName) + "'";
+    SqlText = "Select * from foods where foods.name='" + SqlQuote(m_foodName) + "'";
+    RecordsetScope scope(LibraryRS);
     LibraryRS.Open(SqlText, &LibraryConn);
-    if (LibraryRS.Eof()) {
-        LibraryRS.Close();
+    if (LibraryRS.Eof())
         return;
-    }
     if (move) {
         LibraryRS.SetField("Group_ID", groupId);
         LibraryRS.Update();
@@ -84,12 +79,12 @@ void frmMoveFood::on_cmdOK_clicked()
         LibraryRS.AddNew();
         for (int i = 1; i <= values.size(); ++i)
             LibraryRS.SetField(i, values[i - 1]);
-        LibraryRS.SetField("Name", FoodName + "2");
+        LibraryRS.SetField("Name", m_foodName + "2");
         LibraryRS.SetField("Group_ID", groupId);
         LibraryRS.Update();
         LibraryRS.Close();
         MsgBox(QStringLiteral("The food has been copied."), vbOKOnly + vbInformation, QStringLiteral("Message"));
     }
-    Result = QStringLiteral("complete");
+    m_completed = true;
     accept();
 }

@@ -1,7 +1,7 @@
 #pragma once
 // "Move Food": the destination category of a food that the Foods Library copies or moves.
-// The caller hands over the food's name and the mode in the static strings below and finds
-// Result == "complete" afterwards when the food was copied or moved.
+// The caller hands over the food's name and whether it moves or copies; Completed() tells
+// afterwards whether the food was copied or moved.
 #include <QDialog>
 #include <QString>
 
@@ -12,11 +12,12 @@ class QLabel;
 class frmMoveFood : public QDialog {
     Q_OBJECT
 public:
-    explicit frmMoveFood(QWidget* parent = nullptr);
+    enum Mode { Copy, Move };
+    // `foodName`: the food, looked up by name alone.
+    explicit frmMoveFood(const QString& foodName = QString(), Mode mode = Copy, QWidget* parent = nullptr);
 
-    static QString FoodName;   // the food, looked up by name alone
-    static QString Mode;       // "copy" or "move"
-    static QString Result;     // "complete" after a copy or move
+    // Whether the food was copied or moved.
+    bool Completed() const { return m_completed; }
 
     QLabel* lblCaption = nullptr;
     QListWidget* lstGroups = nullptr;   // item data: Group_ID
@@ -25,4 +26,9 @@ public:
 
 public slots:
     void on_cmdOK_clicked();
+
+private:
+    QString m_foodName;
+    Mode m_mode;
+    bool m_completed = false;
 };

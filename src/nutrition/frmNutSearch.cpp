@@ -7,8 +7,6 @@
 
 #include "core/ui.h"
 
-QString frmNutSearch::SearchText;
-
 QString frmNutSearch::MessageText(const QString& text)
 {
     return text + QStringLiteral(" is not found in this category.\n"
@@ -16,11 +14,11 @@ QString frmNutSearch::MessageText(const QString& text)
                                  "would you like to search for it in all the categories?");
 }
 
-frmNutSearch::frmNutSearch(QWidget* parent) : QDialog(parent)
+frmNutSearch::frmNutSearch(const QString& searchText, QWidget* parent) : QDialog(parent)
 {
     setObjectName(QStringLiteral("frmNutSearch"));
     setWindowTitle(QStringLiteral("Food Search"));
-    lblMessage = new QLabel(MessageText(SearchText), this);
+    lblMessage = new QLabel(MessageText(searchText), this);
     lblMessage->setObjectName(QStringLiteral("lblMessage"));
     cmdAdd = new QPushButton(QStringLiteral("&Add to Foods Library"), this);
     cmdAdd->setObjectName(QStringLiteral("cmdAdd"));

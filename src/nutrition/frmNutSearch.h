@@ -2,8 +2,8 @@
 // The question of the nutrition views when a search finds nothing in one category: add the
 // food to the Foods Library, or search all categories.
 //
-//   frmNutSearch::SearchText = text;
-//   switch (ShowModal("frmNutSearch")) {
+//   frmNutSearch question(text, parent);
+//   switch (ShowModal(&question)) {
 //   case frmNutSearch::AddToLibrary: ...; case frmNutSearch::SearchAll: ...; }
 #include <QDialog>
 #include <QString>
@@ -17,9 +17,8 @@ public:
     // The dialog's results (0: closed without a choice).
     enum Choice { AddToLibrary = 1, SearchAll = 2 };
 
-    explicit frmNutSearch(QWidget* parent = nullptr);
-
-    static QString SearchText;   // the text that was not found, shown in the question
+    // `searchText`: the text that was not found, shown in the question.
+    explicit frmNutSearch(const QString& searchText = QString(), QWidget* parent = nullptr);
 
     QLabel* lblMessage = nullptr;
     QPushButton* cmdAdd = nullptr;      // "Add to Foods Library"

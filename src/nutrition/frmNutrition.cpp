@@ -5,6 +5,9 @@
 #include "nutrition/frmNutSearch.h"
 #include "core/regional.h"
 #include "core/routines.h"
+#include "core/rows.h"
+#include "core/store/transaction.h"
+#include "core/widgets/ListFill.h"
 #include "core/shared.h"
 #include "core/ui.h"
 #include "core/widgets/Chart.h"
@@ -21,6 +24,8 @@
 #include <QMenu>
 #include <QProgressBar>
 #include <QPushButton>
+#include <QScopedValueRollback>
+#include <QScrollArea>
 #include <QSplitter>
 #include <QTabBar>
 #include <QTreeWidget>
@@ -44,33 +49,33 @@ double TextVal(const Recordset& rs, const QString& name) { return Val(Str(rs.Fie
 frmNutrition::frmNutrition(QWidget* parent) : QDialog(parent)
 {
     setObjectName(QStringLiteral("frmNutrition"));
-    m_loading = true;
-    buildUi();
-    QMetaObject::connectSlotsByName(this);
+    {
+        QScopedValueRollback<bool> loading(m_loading, true);
+        buildUi();
+        QMetaObject::connectSlotsByName(this);
+        Guard([this] {
+            SetupNutrition();
+            FormatGrid();
+            SetTotals();
+        });
+        cboDate->setDate(CalendarQDate());
+        setWindowTitle(QStringLiteral("Nutrition for ") + regional::LongDate(cboDate->date()));
 
-    Guard([this] {
-        SetupNutrition();
-        FormatGrid();
-        SetTotals();
-    });
-    cboDate->setDate(CalendarQDate());
-    setWindowTitle(QStringLiteral("Nutrition for ") + regional::LongDate(cboDate->date()));
-
-    // The meal handed in by the caller.
-    bool chosen = false;
-    for (const QString& wanted : {SelectedItem, SelectedKey}) {
-        if (chosen || wanted.isEmpty())
-            continue;
-        chosen = SelectMeal(wanted);
-        if (chosen && wanted == SelectedItem)
-            SelectedItem.clear();   // taken: the next opening starts from the first meal
-        for (int i = 0; !chosen && i < Tab1->count() - 1; ++i)
-            if (Tab1->tabData(i).toString() == wanted.trimmed()) {
-                Tab1->setCurrentIndex(i);
-                chosen = true;
-            }
+        // The meal handed in by the caller.
+        bool chosen = false;
+        for (const QString& wanted : {SelectedItem, SelectedKey}) {
+            if (chosen || wanted.isEmpty())
+                continue;
+            chosen = SelectMeal(wanted);
+            if (chosen && wanted == SelectedItem)
+                SelectedItem.clear();   // taken: the next opening starts from the first meal
+            for (int i = 0; !chosen && i < Tab1->count() - 1; ++i)
+                if (Tab1->tabData(i).toString() == wanted.trimmed()) {
+                    Tab1->setCurrentIndex(i);
+                    chosen = true;
+                }
+        }
     }
-    m_loading = false;
     Guard([this] {
         clearform();
         LoadTodayFoods();
@@ -79,7 +84,8 @@ frmNutrition::frmNutrition(QWidget* parent) : QDialog(parent)
     // Enter belongs to the field that has it (the search), never to a button by default.
     for (auto* b : findChildren<QPushButton*>())
         b->setAutoDefault(false);
-    resize(1180, 760);
+    // Within a 1280x720 screen, frame included; smaller on request.
+    resize(1180, 660);
     CenterForm(this);
 }
 
@@ -201,6 +207,8 @@ void frmNutrition::buildUi()
     SS1 = new Grid(this);
     SS1->setObjectName(QStringLiteral("SS1"));
     SS1->setAccessibleName(QStringLiteral("Nutrients"));
+    // The grid is read, not filled in: Tab moves on to the next control, arrows move inside.
+    SS1->setTabKeyNavigation(false);
 
     calmeter = new QProgressBar(this);
     calmeter->setObjectName(QStringLiteral("calmeter"));
@@ -220,7 +228,7 @@ void frmNutrition::buildUi()
         c->SetStyle(Chart::Pie);
         c->SetTitle(title);
         c->SetPieSlices({QStringLiteral("Carbs"), QStringLiteral("Fat"), QStringLiteral("Protein")});
-        c->setMinimumSize(180, 200);
+        c->setMinimumSize(150, 150);
         return c;
     };
     Chart1 = makePie(QStringLiteral("Chart"), QStringLiteral("Selected Food Percentages"));
@@ -306,25 +314,21 @@ bool frmNutrition::SelectMeal(const QString& caption)
 
 void frmNutrition::SetupNutrition()
 {
-    const bool was = m_loading;
-    m_loading = true;
+    QScopedValueRollback<bool> loading(m_loading, true);
     while (Tab1->count() > 0)
         Tab1->removeTab(0);
+    const auto addMealTab = [this](Recordset& rs) {
+        const int i = Tab1->addTab(Str(rs.Field(QStringLiteral("meal"))).trimmed());
+        Tab1->setTabData(i, Str(rs.Field(QStringLiteral("Meal_ID"))).trimmed());
+    };
     SqlText = QStringLiteral("select * from setup_meals where User_ID =") + CurrentUserID +
               QStringLiteral("  and show=true order by [Position]");
-    UserRS.Open(SqlText);
-    if (UserRS.Eof()) {
-        UserRS.Close();
+    if (ForEachRow(UserRS, SqlText, addMealTab) == 0) {
+        // No meal is shown: every meal gets its tab.
         SqlText = QStringLiteral("select * from setup_meals where User_ID =") + CurrentUserID +
                   QStringLiteral(" order by [Position]");
-        UserRS.Open(SqlText);
+        ForEachRow(UserRS, SqlText, addMealTab);
     }
-    while (!UserRS.Eof()) {
-        const int i = Tab1->addTab(Str(UserRS.Field(QStringLiteral("meal"))).trimmed());
-        Tab1->setTabData(i, Str(UserRS.Field(QStringLiteral("Meal_ID"))).trimmed());
-        UserRS.MoveNext();
-    }
-    UserRS.Close();
     const int t = Tab1->addTab(DailyTotals);
     Tab1->setTabData(t, QString());
     Tab1->setCurrentIndex(0);
@@ -333,39 +337,31 @@ void frmNutrition::SetupNutrition()
 
     Chart3->ClearPie();
     SqlText = QStringLiteral("select carbs,protein,fat from User_Info where User_ID=") + CurrentUserID;
-    UserRS.Open(SqlText);
-    if (!UserRS.Eof()) {
-        const QVariant carbs = UserRS.Field(QStringLiteral("carbs"));
-        const QVariant fat = UserRS.Field(QStringLiteral("fat"));
-        const QVariant protein = UserRS.Field(QStringLiteral("protein"));
+    FirstRow(UserRS, SqlText, [this](Recordset& rs) {
+        const QVariant carbs = rs.Field(QStringLiteral("carbs"));
+        const QVariant fat = rs.Field(QStringLiteral("fat"));
+        const QVariant protein = rs.Field(QStringLiteral("protein"));
         if (!IsNull(carbs)) Chart3->SetPieValue(1, Val(carbs));
         if (!IsNull(fat)) Chart3->SetPieValue(2, Val(fat));
         if (!IsNull(protein)) Chart3->SetPieValue(3, Val(protein));
-    }
-    UserRS.Close();
-    m_loading = was;
+    });
 }
 
 void frmNutrition::fillGroups(const QString& type)
 {
-    const bool was = m_loading;
-    m_loading = true;
+    QScopedValueRollback<bool> loading(m_loading, true);
     Combo1->clear();
     list1->clear();
     if (type == QLatin1String("Foods"))
         Combo1->addItem(SearchAll, -1);
     SqlText = QStringLiteral("select * from food_groups where type='") + type + QStringLiteral("' order by group");
-    LibraryRS.Open(SqlText);
-    while (!LibraryRS.Eof()) {
-        QString name = Str(LibraryRS.Field(QStringLiteral("Group")));
+    ForEachRow(LibraryRS, SqlText, [this](Recordset& rs) {
+        QString name = Str(rs.Field(QStringLiteral("Group")));
         if (name == QLatin1String(" My Favorites"))
             name = name.trimmed();
-        Combo1->addItem(name, Val(LibraryRS.Field(QStringLiteral("Group_ID"))));
-        LibraryRS.MoveNext();
-    }
-    LibraryRS.Close();
+        Combo1->addItem(name, Val(rs.Field(QStringLiteral("Group_ID"))));
+    });
     Combo1->setCurrentIndex(0);
-    m_loading = was;
 }
 
 QString frmNutrition::ribbonType() const
@@ -387,14 +383,11 @@ void frmNutrition::FormatGrid()
     SS1->HideColumn(colRDA, true);
     SS1->SetRowHeadersVisible(false);
     SqlText = QStringLiteral("select * from Nutrients order by Nutrient_ID");
-    LibraryRS.Open(SqlText);
     QList<QStringList> rows;
-    while (!LibraryRS.Eof()) {
-        rows << QStringList{Str(LibraryRS.Field(QStringLiteral("Nutrient"))), Str(LibraryRS.Field(QStringLiteral("Measure"))),
-                            Str(LibraryRS.Field(QStringLiteral("RDA")))};
-        LibraryRS.MoveNext();
-    }
-    LibraryRS.Close();
+    ForEachRow(LibraryRS, SqlText, [&rows](Recordset& rs) {
+        rows << QStringList{Str(rs.Field(QStringLiteral("Nutrient"))), Str(rs.Field(QStringLiteral("Measure"))),
+                            Str(rs.Field(QStringLiteral("RDA")))};
+    });
     m_rows = int(rows.size());
     SS1->SetMaxRows(m_rows);
     for (int r = 1; r <= m_rows; ++r) {
@@ -412,30 +405,29 @@ void frmNutrition::FormatGrid()
     SS1->SetColumnWidthChars(colRdaText, 10);
 
     SqlText = QStringLiteral("select * from Nutrient_Goals where User_ID='") + CurrentUserID + QStringLiteral("'");
-    UserRS.Open(SqlText);
-    if (!UserRS.Eof())
-        for (int r = 2; r <= m_rows && r < UserRS.FieldCount(); ++r)
-            SS1->SetText(r, colGoal, Str(UserRS.Field(r)));
-    UserRS.Close();
+    FirstRow(UserRS, SqlText, [this](Recordset& rs) {
+        for (int r = 2; r <= m_rows && r < rs.FieldCount(); ++r)
+            SS1->SetText(r, colGoal, Str(rs.Field(r)));
+    });
 }
 
 void frmNutrition::SetTotals()
 {
     SqlText = QStringLiteral("select * from User_Info where User_ID=") + CurrentUserID;
-    UserRS.Open(SqlText);
-    if (!UserRS.Eof() && m_rows >= 4) {
-        const double target = Val(UserRS.Field(QStringLiteral("TargetCals")));
-        SS1->SetText(1, colGoal, Str(UserRS.Field(QStringLiteral("TargetCals"))));
+    FirstRow(UserRS, SqlText, [this](Recordset& rs) {
+        if (m_rows < 4)
+            return;
+        const double target = Val(rs.Field(QStringLiteral("TargetCals")));
+        SS1->SetText(1, colGoal, Str(rs.Field(QStringLiteral("TargetCals"))));
         if (target > 0) {
             const daily::GramGoals g =
-                daily::GoalsFromTarget(target, Val(UserRS.Field(QStringLiteral("protein"))),
-                                       Val(UserRS.Field(QStringLiteral("Fat"))), Val(UserRS.Field(QStringLiteral("Carbs"))));
+                daily::GoalsFromTarget(target, Val(rs.Field(QStringLiteral("protein"))),
+                                       Val(rs.Field(QStringLiteral("Fat"))), Val(rs.Field(QStringLiteral("Carbs"))));
             SS1->SetText(2, colGoal, Num(g.protein));
             SS1->SetText(3, colGoal, Num(g.fat));
             SS1->SetText(4, colGoal, Num(g.carbs));
         }
-    }
-    UserRS.Close();
+    });
 }
 
 void frmNutrition::clearform()
@@ -494,14 +486,11 @@ void frmNutrition::LoadTodayFoods()
         SqlText = QStringLiteral("select * from daily_nutrition where meal_id = ") + MealTag() +
                   QStringLiteral(" and User_ID = '") + CurrentUserID + QStringLiteral("' and date = #") + GetLocalDate() +
                   QStringLiteral("#");
-    UserRS.Open(SqlText);
-    while (!UserRS.Eof()) {
-        const QString foodId = Str(UserRS.Field(QStringLiteral("Food_ID")));
-        addListLine(UserRS, foodId, Str(UserRS.Field(QStringLiteral("Name"))), Str(UserRS.Field(QStringLiteral("Meal_ID"))));
-        addToGrid(UserRS, daily::DiaryOffset);
-        UserRS.MoveNext();
-    }
-    UserRS.Close();
+    ForEachRow(UserRS, SqlText, [this](Recordset& rs) {
+        const QString foodId = Str(rs.Field(QStringLiteral("Food_ID")));
+        addListLine(rs, foodId, Str(rs.Field(QStringLiteral("Name"))), Str(rs.Field(QStringLiteral("Meal_ID"))));
+        addToGrid(rs, daily::DiaryOffset);
+    });
     TotalNutrients();
 }
 
@@ -531,16 +520,13 @@ void frmNutrition::TotalNutrients()
     else
         SqlText = QStringLiteral("select * from daily_nutrition where User_ID = '") + CurrentUserID +
                   QStringLiteral("' and date = #") + GetLocalDate() + QStringLiteral("# and meal_id=") + MealTag();
-    UserRS.Open(SqlText);
-    while (!UserRS.Eof()) {
-        calories += TextVal(UserRS, QStringLiteral("calories"));
-        protein += TextVal(UserRS, QStringLiteral("protein"));
-        fat += TextVal(UserRS, QStringLiteral("Fat"));
-        carbs += TextVal(UserRS, QStringLiteral("Carbs"));
-        fiber += TextVal(UserRS, QStringLiteral("fiber"));
-        UserRS.MoveNext();
-    }
-    UserRS.Close();
+    ForEachRow(UserRS, SqlText, [&](Recordset& rs) {
+        calories += TextVal(rs, QStringLiteral("calories"));
+        protein += TextVal(rs, QStringLiteral("protein"));
+        fat += TextVal(rs, QStringLiteral("Fat"));
+        carbs += TextVal(rs, QStringLiteral("Carbs"));
+        fiber += TextVal(rs, QStringLiteral("fiber"));
+    });
     m_points = daily::DietPoints(fat, calories, fiber);
 
     const daily::Shares s = daily::EnergyShares(protein, fat, carbs);
@@ -549,13 +535,10 @@ void frmNutrition::TotalNutrients()
     double bmr = 0;
     SqlText = QStringLiteral("select weight,bmr from WeighIn where User_ID ='") + CurrentUserID +
               QStringLiteral("' order by date");
-    UserRS.Open(SqlText);
-    while (!UserRS.Eof()) {
-        const QVariant v = UserRS.Field(QStringLiteral("bmr"));
+    ForEachRow(UserRS, SqlText, [&bmr](Recordset& rs) {
+        const QVariant v = rs.Field(QStringLiteral("bmr"));
         bmr = IsNull(v) ? bmr : Val(v);
-        UserRS.MoveNext();
-    }
-    UserRS.Close();
+    });
     const double goal = regional::Round(bmr, 0);
 
     setMeter(0, m_meterColor.isValid() ? m_meterColor : QColor(0, 255, 0));
@@ -629,19 +612,17 @@ void frmNutrition::on_List2_itemSelectionChanged()
                   item->data(0, Qt::UserRole).toString();
         if (!OnDailyTotals())
             SqlText += QStringLiteral(" and meal_id=") + MealTag();
-        UserRS.Open(SqlText);
-        if (!UserRS.Eof()) {
+        FirstRow(UserRS, SqlText, [this](Recordset& rs) {
             for (int r = 1; r <= m_rows; ++r)
                 SS1->ClearCell(r, colAmount);
-            addToGrid(UserRS, daily::DiaryOffset);
-            const daily::Shares s = daily::FoodShares(Val(UserRS.Field(QStringLiteral("calories"))),
-                                                      Val(UserRS.Field(QStringLiteral("protein"))),
-                                                      Val(UserRS.Field(QStringLiteral("Fat"))),
-                                                      Val(UserRS.Field(QStringLiteral("Carbs"))));
+            addToGrid(rs, daily::DiaryOffset);
+            const daily::Shares s = daily::FoodShares(Val(rs.Field(QStringLiteral("calories"))),
+                                                      Val(rs.Field(QStringLiteral("protein"))),
+                                                      Val(rs.Field(QStringLiteral("Fat"))),
+                                                      Val(rs.Field(QStringLiteral("Carbs"))));
             Chart1->ClearPie();
             setPie(Chart1, s.carbs, s.fat, s.protein);
-        }
-        UserRS.Close();
+        });
         for (int r = 1; r <= m_rows; ++r) {
             SS1->ClearCell(r, colPercent);
             double percent = 0;
@@ -662,19 +643,18 @@ void frmNutrition::on_list1_itemSelectionChanged()
     Guard([this, item] {
         SqlText = QStringLiteral("select calories,protein,fat,carbs from foods where food_id=") +
                   item->data(0, Qt::UserRole).toString();
-        LibraryRS.Open(SqlText);
         Chart1->ClearPie();
-        if (!LibraryRS.Eof()) {
-            const daily::Shares s = daily::FoodShares(Val(LibraryRS.Field(0)), Val(LibraryRS.Field(1)),
-                                                      Val(LibraryRS.Field(2)), Val(LibraryRS.Field(3)));
+        FirstRow(LibraryRS, SqlText, [this](Recordset& rs) {
+            const daily::Shares s = daily::FoodShares(Val(rs.Field(0)), Val(rs.Field(1)), Val(rs.Field(2)),
+                                                      Val(rs.Field(3)));
             setPie(Chart1, s.carbs, s.fat, s.protein);
-        }
-        LibraryRS.Close();
+        });
     });
 }
 
 void frmNutrition::writeDiaryRow(Recordset& rs, int shift)
 {
+    RecordsetScope scope(UserRS2);
     UserRS2.Open(QStringLiteral("daily_nutrition"));
     UserRS2.AddNew();
     UserRS2.SetField(QStringLiteral("User_ID"), CurrentUserID);
@@ -713,42 +693,39 @@ void frmNutrition::on_cmdAdd_clicked()
     const QString foodId = chosen->data(0, Qt::UserRole).toString();
     bool added = false;
     const bool ok = Guard([&] {
+        // The meal's rows are written together or not at all.
+        StoreTransaction transaction(UserConn);
         if (ribbon->checkedId() == 1) {
             // A saved meal: its ingredients enter the diary, not the meal.
             SqlText = QStringLiteral("select * from daily_nutrition where meal_id=9999 and type='") + foodId +
                       QStringLiteral("'");
-            UserRS.Open(SqlText);
-            while (!UserRS.Eof()) {
-                const QString id = Str(UserRS.Field(QStringLiteral("Food_ID")));
-                addListLine(UserRS, id, Str(UserRS.Field(QStringLiteral("Name"))), MealTag());
-                addToGrid(UserRS, daily::DiaryOffset);
-                writeDiaryRow(UserRS, 0);
+            ForEachRow(UserRS, SqlText, [&](Recordset& rs) {
+                const QString id = Str(rs.Field(QStringLiteral("Food_ID")));
+                addListLine(rs, id, Str(rs.Field(QStringLiteral("Name"))), MealTag());
+                addToGrid(rs, daily::DiaryOffset);
+                writeDiaryRow(rs, 0);
                 added = true;
-                UserRS.MoveNext();
-            }
-            UserRS.Close();
+            });
         } else {
             SqlText = QStringLiteral("select * from foods where food_id=") + foodId;
-            LibraryRS.Open(SqlText);
-            if (LibraryRS.Eof()) {
-                // The library row has gone: nothing to copy.
-                LibraryRS.Close();
-                return;
-            }
-            const QString foodName = Str(LibraryRS.Field(QStringLiteral("Name")));
-            addListLine(LibraryRS, foodId, foodName, MealTag());
-            addToGrid(LibraryRS, daily::FoodsOffset);
-            SqlText = QStringLiteral("delete * from daily_nutrition where User_ID= '") + CurrentUserID +
-                      QStringLiteral("' and date =#") + GetLocalDate() + QStringLiteral("# and  meal_id=") + MealTag() +
-                      QStringLiteral(" and name='") + SqlQuote(foodName) + QStringLiteral("'");
-            UserConn.Execute(SqlText);
-            writeDiaryRow(LibraryRS, -daily::FoodsToDiary);
-            LibraryRS.Close();
-            added = true;
+            // The library row may have gone: then there is nothing to copy.
+            FirstRow(LibraryRS, SqlText, [&](Recordset& rs) {
+                const QString foodName = Str(rs.Field(QStringLiteral("Name")));
+                addListLine(rs, foodId, foodName, MealTag());
+                addToGrid(rs, daily::FoodsOffset);
+                SqlText = QStringLiteral("delete * from daily_nutrition where User_ID= '") + CurrentUserID +
+                          QStringLiteral("' and date =#") + GetLocalDate() + QStringLiteral("# and  meal_id=") + MealTag() +
+                          QStringLiteral(" and name='") + SqlQuote(foodName) + QStringLiteral("'");
+                UserConn.Execute(SqlText);
+                writeDiaryRow(rs, -daily::FoodsToDiary);
+                added = true;
+            });
         }
+        transaction.Commit();
     });
     if (!ok) {
-        // What reached the store is what the list shows.
+        // Nothing reached the store: the list shows what is there.
+        added = false;
         Guard([this] {
             clearform();
             LoadTodayFoods();
@@ -773,41 +750,41 @@ void frmNutrition::on_cmdChange_clicked()
     QStringList cells;
     for (int c = 0; c < List2->columnCount(); ++c)
         cells << item->text(c);
-    frmChangeAmt::FoodLine = cells.join(QLatin1Char('\t'));
-    frmChangeAmt::FoodID = item->data(0, Qt::UserRole).toString();
+    FoodPortion portion;
+    portion.foodLine = cells.join(QLatin1Char('\t'));
+    portion.foodId = item->data(0, Qt::UserRole).toString();
     const QString meal = item->data(0, MealRole).toString();
-    frmChangeAmt::MealID = meal.isEmpty() ? MealTag() : meal;
-    frmChangeAmt::MealType.clear();
-    frmChangeAmt::MealDate = GetLocalDate();
-    frmChangeAmt::NewLine.clear();
+    portion.mealId = meal.isEmpty() ? MealTag() : meal;
+    portion.mealDate = GetLocalDate();
+    QString line;
     {
-        frmChangeAmt dialog(this);
+        frmChangeAmt dialog(portion, this);
         ShowModal(&dialog);
+        line = dialog.NewLine();
     }
-    const QString line = frmChangeAmt::NewLine;
     if (line.isEmpty()) {
         Guard([this] { TotalNutrients(); });
         return;
     }
-    const QString foodId = frmChangeAmt::FoodID;
+    const QString foodId = portion.foodId;
     for (int c = 0; c < List2->columnCount(); ++c)
         item->setText(c, GetTabField(line, c + 1));
     // The grid holds sums: read the tab again so they follow the new portion.
     Guard([this, foodId] {
-        m_loading = true;
-        clearform();
-        LoadTodayFoods();
-        for (int i = 0; i < List2->topLevelItemCount(); ++i)
-            if (List2->topLevelItem(i)->data(0, Qt::UserRole).toString() == foodId)
-                List2->setCurrentItem(List2->topLevelItem(i));
-        m_loading = false;
+        {
+            QScopedValueRollback<bool> loading(m_loading, true);
+            clearform();
+            LoadTodayFoods();
+            for (int i = 0; i < List2->topLevelItemCount(); ++i)
+                if (List2->topLevelItem(i)->data(0, Qt::UserRole).toString() == foodId)
+                    List2->setCurrentItem(List2->topLevelItem(i));
+        }
         if (auto* current = List2->currentItem()) {
             const daily::Shares s = daily::FoodShares(Val(current->text(lstCalories)), Val(current->text(lstProtein)),
                                                       Val(current->text(lstFat)), Val(current->text(lstCarbs)));
             setPie(Chart1, s.carbs, s.fat, s.protein);
         }
     });
-    m_loading = false;
     updateButtons();
 }
 
@@ -852,9 +829,11 @@ void frmNutrition::on_cmdDelMeal_clicked()
         return;
     const QString name = SqlQuote(item->text(0));
     Guard([&] {
+        StoreTransaction transaction(LibraryConn);
         LibraryConn.Execute(QStringLiteral("delete * from Recipe_Ingredients where name='") + name +
                             QStringLiteral("' and recipe_id=0"));
         LibraryConn.Execute(QStringLiteral("delete * From foods where group_id=65 and name='") + name + QStringLiteral("'"));
+        transaction.Commit();
         LoadFoodList();
     });
 }
@@ -867,15 +846,13 @@ void frmNutrition::LoadFoodList()
         return;
     SqlText = QStringLiteral("select * from foods where group_id =") + QString::number(group.toLongLong()) +
               QStringLiteral(" order by name");
-    LibraryRS.Open(SqlText);
-    while (!LibraryRS.Eof()) {
-        auto* item = new QTreeWidgetItem(list1, {Str(LibraryRS.Field(QStringLiteral("Name"))),
-                                                 Str(LibraryRS.Field(QStringLiteral("amount"))) + QStringLiteral(" ") +
-                                                     Str(LibraryRS.Field(QStringLiteral("Measure")))});
-        item->setData(0, Qt::UserRole, Str(LibraryRS.Field(QStringLiteral("Food_ID"))));
-        LibraryRS.MoveNext();
-    }
-    LibraryRS.Close();
+    listfill::FillList(list1, LibraryRS, SqlText, [](QTreeWidget* list, Recordset& rs) {
+        auto* item = new QTreeWidgetItem(list, {Str(rs.Field(QStringLiteral("Name"))),
+                                                Str(rs.Field(QStringLiteral("amount"))) + QStringLiteral(" ") +
+                                                    Str(rs.Field(QStringLiteral("Measure")))});
+        item->setData(0, Qt::UserRole, Str(rs.Field(QStringLiteral("Food_ID"))));
+        item->setToolTip(0, item->text(0));
+    });
 }
 
 void frmNutrition::on_Combo1_currentIndexChanged(int)
@@ -913,24 +890,20 @@ void frmNutrition::on_cmdSearch_clicked()
             SqlText = QStringLiteral("select * from foods a, food_groups b where name ") + filter +
                       QStringLiteral(" and a.group_id = b.group_id and a.group_id=") +
                       QString::number(Combo1->currentData().toLongLong()) + QStringLiteral(" order by a.name");
-        LibraryRS.Open(SqlText);
-        while (!LibraryRS.Eof()) {
-            if (all && Val(LibraryRS.Field(QStringLiteral("Group_ID"))) == daily::SavedMealGroup) {
-                LibraryRS.MoveNext();
-                continue;
-            }
-            QString group = Str(LibraryRS.Field(QStringLiteral("Group")));
+        listfill::FillList(list1, LibraryRS, SqlText, [&](QTreeWidget* list, Recordset& rs) {
+            if (all && Val(rs.Field(QStringLiteral("Group_ID"))) == daily::SavedMealGroup)
+                return;
+            QString group = Str(rs.Field(QStringLiteral("Group")));
             if (group == QLatin1String(" My Favorites"))
                 group = group.trimmed();
-            auto* item = new QTreeWidgetItem(list1, {Str(LibraryRS.Field(QStringLiteral("Name"))),
-                                                     Str(LibraryRS.Field(QStringLiteral("amount"))) + QStringLiteral(" ") +
-                                                         Str(LibraryRS.Field(QStringLiteral("Measure"))),
-                                                     group});
-            item->setData(0, Qt::UserRole, Str(LibraryRS.Field(QStringLiteral("Food_ID"))));
+            auto* item = new QTreeWidgetItem(list, {Str(rs.Field(QStringLiteral("Name"))),
+                                                    Str(rs.Field(QStringLiteral("amount"))) + QStringLiteral(" ") +
+                                                        Str(rs.Field(QStringLiteral("Measure"))),
+                                                    group});
+            item->setData(0, Qt::UserRole, Str(rs.Field(QStringLiteral("Food_ID"))));
+            item->setToolTip(0, item->text(0));
             ++found;
-            LibraryRS.MoveNext();
-        }
-        LibraryRS.Close();
+        });
     });
     if (found > 0)
         return;
@@ -940,8 +913,12 @@ void frmNutrition::on_cmdSearch_clicked()
             ShowModal(QStringLiteral("frmFoods"));
         return;
     }
-    frmNutSearch::SearchText = text.trimmed();
-    switch (ShowModal(QStringLiteral("frmNutSearch"))) {
+    int choice = 0;
+    {
+        frmNutSearch question(text.trimmed(), this);
+        choice = ShowModal(&question);
+    }
+    switch (choice) {
     case frmNutSearch::AddToLibrary:
         ShowModal(QStringLiteral("frmFoods"));
         break;
@@ -950,9 +927,10 @@ void frmNutrition::on_cmdSearch_clicked()
             SSRibbon1[0]->setChecked(true);
             Guard([this] { fillGroups(QStringLiteral("Foods")); });
         }
-        m_loading = true;
-        Combo1->setCurrentIndex(Combo1->findText(SearchAll));
-        m_loading = false;
+        {
+            QScopedValueRollback<bool> loading(m_loading, true);
+            Combo1->setCurrentIndex(Combo1->findText(SearchAll));
+        }
         on_cmdSearch_clicked();
         break;
     }
@@ -987,18 +965,17 @@ void frmNutrition::mnuPaste_Click()
         SqlText = QStringLiteral("select * from daily_nutrition where meal_id = ") + m_copyMeal +
                   QStringLiteral(" and User_ID = '") + CurrentUserID + QStringLiteral("' and date = #") + m_copyDate +
                   QStringLiteral("#");
-        UserRS.Open(SqlText);
         // The rows are read first, then written: a paste onto its own meal must not read its
         // own copies.
         QList<QList<QVariant>> rows;
-        while (!UserRS.Eof()) {
+        ForEachRow(UserRS, SqlText, [&rows](Recordset& rs) {
             QList<QVariant> row;
-            for (int p = 0; p < UserRS.FieldCount(); ++p)
-                row << UserRS.Field(p);
+            for (int p = 0; p < rs.FieldCount(); ++p)
+                row << rs.Field(p);
             rows << row;
-            UserRS.MoveNext();
-        }
-        UserRS.Close();
+        });
+        // The pasted meal arrives whole or not at all.
+        StoreTransaction transaction(UserConn);
         for (const auto& row : rows) {
             UserRS2.Open(QStringLiteral("daily_nutrition"));
             UserRS2.AddNew();
@@ -1012,6 +989,7 @@ void frmNutrition::mnuPaste_Click()
             UserRS2.Update();
             UserRS2.Close();
         }
+        transaction.Commit();
         clearform();
         LoadTodayFoods();
     });

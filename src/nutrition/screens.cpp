@@ -10,7 +10,7 @@ void RegisterNutritionScreens()
 {
     ui::RegisterScreen(QStringLiteral("frmFoods"), [](QWidget* p) { return new frmFoods(p); });
     ui::RegisterScreen(QStringLiteral("frmFoodCategories"), [](QWidget* p) { return new frmFoodCategories(p); });
-    ui::RegisterScreen(QStringLiteral("frmMoveFood"), [](QWidget* p) { return new frmMoveFood(p); });
-    ui::RegisterScreen(QStringLiteral("frmNutSearch"), [](QWidget* p) { return new frmNutSearch(p); });
+    ui::RegisterScreen(QStringLiteral("frmMoveFood"), [](QWidget* p) { return new frmMoveFood(QString(), frmMoveFood::Copy, p); });
+    ui::RegisterScreen(QStringLiteral("frmNutSearch"), [](QWidget* p) { return new frmNutSearch(QString(), p); });
     RegisterDailyNutritionScreens();
 }
