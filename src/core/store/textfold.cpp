@@ -1,6 +1,7 @@
 #include "core/store/textfold.h"
 
 #include <QChar>
+#include <array>
 
 namespace textfold {
 namespace {
@@ -37,6 +38,60 @@ char32_t NextFolded(const unsigned char* s, int n, int& i)
     return QChar::toCaseFolded(cp);
 }
 
+// Both texts ASCII: bytes compared through a fold table, no decoding.
+bool LikeAscii(const unsigned char* p, int plen, const unsigned char* t, int tlen, int escape)
+{
+    static const auto fold = [] {
+        std::array<unsigned char, 128> f{};
+        for (int c = 0; c < 128; ++c) f[size_t(c)] = (c >= 'A' && c <= 'Z') ? (unsigned char)(c + 32) : (unsigned char)c;
+        return f;
+    }();
+    int pi = 0, ti = 0, starP = -1, starT = 0;
+    while (ti < tlen) {
+        if (pi < plen) {
+            const unsigned char pc = p[pi];
+            if (pc == '%' && escape != '%') {
+                while (pi < plen && p[pi] == '%') ++pi;
+                if (pi == plen) return true;
+                starP = pi;
+                starT = ti;
+                // Where the next character is plain, go straight to its next place in the text.
+                const unsigned char want = p[pi];
+                if (want != '_' && int(want) != escape) {
+                    const unsigned char w = fold[want];
+                    while (ti < tlen && fold[t[ti]] != w) ++ti;
+                    if (ti == tlen) return false;
+                    starT = ti;
+                }
+                continue;
+            }
+            if (int(pc) == escape && pi + 1 < plen) {
+                if (fold[p[pi + 1]] == fold[t[ti]]) {
+                    pi += 2;
+                    ++ti;
+                    continue;
+                }
+            } else if (pc == '_' || fold[pc] == fold[t[ti]]) {
+                ++pi;
+                ++ti;
+                continue;
+            }
+        }
+        if (starP < 0) return false;
+        pi = starP;
+        ti = ++starT;
+    }
+    while (pi < plen && p[pi] == '%') ++pi;
+    return pi == plen;
+}
+
+bool AllAscii(const unsigned char* s, int n)
+{
+    for (int i = 0; i < n; ++i)
+        if (s[i] >= 0x80) return false;
+    return true;
+}
+
 }  // namespace
 
 int Compare(const char* a, int alen, const char* b, int blen)
@@ -64,6 +119,7 @@ bool Like(const char* pattern, int plen, const char* text, int tlen, char32_t es
 {
     const auto* p = reinterpret_cast<const unsigned char*>(pattern);
     const auto* t = reinterpret_cast<const unsigned char*>(text);
+    if (escape < 0x80 && AllAscii(p, plen) && AllAscii(t, tlen)) return LikeAscii(p, plen, t, tlen, escape ? int(escape) : -1);
     int pi = 0, ti = 0;
     int starP = -1, starT = 0;   // where the last "%" was, and the text it has taken so far
     const char32_t folded = escape ? QChar::toCaseFolded(escape) : 0;
