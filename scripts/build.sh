@@ -1,10 +1,18 @@
 #!/usr/bin/env bash
 # Configures and builds into build/ (the program's folder is build/bin).
-#   scripts/build.sh [cmake options]               configure and build
+#   scripts/build.sh [cmake options]               configure and build everything
 #   scripts/build.sh --configure-only [options]    configure only
+#   scripts/build.sh --program [options]           configure and build the program alone
 set -euo pipefail
 cd "$(dirname "$0")/.."
-configure_only=0
-if [ "${1:-}" = "--configure-only" ]; then configure_only=1; shift; fi
+what=all
+case "${1:-}" in
+  --configure-only) what=none; shift ;;
+  --program) what=orvantis; shift ;;
+esac
 cmake -S . -B build -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo "$@" >/dev/null
-[ $configure_only -eq 1 ] || cmake --build build -j"$(nproc)"
+case $what in
+  none) ;;
+  all) cmake --build build -j"$(nproc)" ;;
+  *) cmake --build build -j"$(nproc)" --target "$what" ;;
+esac
