@@ -23,6 +23,8 @@
 #include <QToolBar>
 #include <QToolButton>
 
+#include <cmath>
+
 namespace {
 double LogicalDpi()
 {
@@ -94,7 +96,15 @@ QIcon ButtonIcon(const QString& file, const QString& label)
 }
 }  // namespace
 
-int TwipsToPixels(double twips) { return qRound(twips * LogicalDpi() / 1440.0); }
+QColor WinColor(long value) { return theme::FromWinColor(value); }
+
+int TwipsToPixels(double twips)
+{
+    // A value from the settings file may be anything: keep the pixels within what a screen can hold.
+    const double px = twips * LogicalDpi() / 1440.0;
+    if (!std::isfinite(px)) return 0;
+    return qRound(qBound(-1.0e6, px, 1.0e6));
+}
 double PixelsToTwips(int pixels) { return pixels * 1440.0 / LogicalDpi(); }
 
 const QList<frmMain::BackColor>& frmMain::BackColors()
@@ -153,24 +163,39 @@ void frmMain::Form_Load()
 
     AppColor = theme::ColorFromSetting(ReadIni(Window, QStringLiteral("Color"), IniFile));
 
+    // State 0 is a normal window; 1 (minimised), an empty value and anything else maximised.
     const QString stateText = ReadIni(Window, QStringLiteral("State"), IniFile);
-    int state = static_cast<int>(Val(stateText));
-    if (stateText.isEmpty() || state == 1) state = 2;   // never restored minimised
+    const double stateValue = Val(stateText);
+    const int state = !stateText.isEmpty() && stateValue >= 0 && stateValue < 1 ? 0 : 2;
 
     if (state == 0) {
-        // Geometry is kept as single-precision twips.
+        // Geometry is kept as single-precision twips: the frame's position and the inner size.
         const double left = Val(ReadIni(Window, QStringLiteral("Left"), IniFile));
         const double top = Val(ReadIni(Window, QStringLiteral("Top"), IniFile));
         double height = Val(ReadIni(Window, QStringLiteral("Height"), IniFile));
         double width = Val(ReadIni(Window, QStringLiteral("Width"), IniFile));
-        if (height < 6000) height = 6000;
-        if (width < 5000) width = 5000;
+        if (!(height >= 6000)) height = 6000;
+        if (!(width >= 5000)) width = 5000;
         move(TwipsToPixels(left), TwipsToPixels(top));
         resize(TwipsToPixels(width), TwipsToPixels(height));
         setWindowState(Qt::WindowNoState);
+        KeepOnScreen(this);
     } else {
         setWindowState(Qt::WindowMaximized);
     }
+}
+
+void frmMain::KeepOnScreen(QWidget* window)
+{
+    if (!window) return;
+    QList<QRect> screens;
+    for (QScreen* s : QGuiApplication::screens()) screens << s->availableGeometry();
+    const QRect frame = window->frameGeometry();
+    const QRect placed = OnScreenRect(frame, screens);
+    if (placed == frame) return;
+    const QSize border = frame.size() - window->size();
+    window->move(placed.topLeft());
+    if (placed.size() != frame.size()) window->resize(placed.size() - border);
 }
 
 void frmMain::showEvent(QShowEvent* event)
@@ -185,6 +210,8 @@ void frmMain::showEvent(QShowEvent* event)
         const QRect avail = s->availableGeometry();
         if (frameGeometry().width() < avail.width() * 9 / 10) setGeometry(avail);
     });
+    // The frame is known once the window is on view: a normal window stays reachable.
+    if (!(windowState() & (Qt::WindowMaximized | Qt::WindowMinimized))) KeepOnScreen(this);
 }
 
 QAction* frmMain::AddEntry(QMenu* menu, const QString& name, const QString& caption)
@@ -499,7 +526,13 @@ int frmMain::WindowStateValue() const
 void frmMain::SaveWindowPlacement() const
 {
     // Errors writing the settings file are ignored.
-    const QRect g = (windowState() & (Qt::WindowMaximized | Qt::WindowMinimized)) ? normalGeometry() : frameGeometry();
+    // The frame's position and the inner size: what Form_Load applies with move() and resize().
+    QRect g(pos(), size());
+    if (windowState() & (Qt::WindowMaximized | Qt::WindowMinimized)) {
+        const QRect normal = normalGeometry();
+        const QPoint border = geometry().topLeft() - pos();
+        if (normal.isValid()) g = QRect(normal.topLeft() - border, normal.size());
+    }
     WriteIni(Window, QStringLiteral("State"), QString::number(WindowStateValue()), IniFile);
     WriteIni(Window, QStringLiteral("Left"), QString::number(float(PixelsToTwips(g.left()))), IniFile);
     WriteIni(Window, QStringLiteral("Top"), QString::number(float(PixelsToTwips(g.top()))), IniFile);

@@ -20,8 +20,11 @@ public:
 
     // Window/State as the system writes it: 0 normal, 1 minimised, 2 maximised.
     int WindowStateValue() const;
-    // Writes State, Left, Top, Height and Width (twips) to the Window section.
+    // Writes State, Left, Top, Height and Width (twips) to the Window section: the frame's
+    // position and the inner size, the rectangle that loading applies.
     void SaveWindowPlacement() const;
+    // Brings a window whose frame is on no screen back onto the nearest one (no larger than it).
+    static void KeepOnScreen(QWidget* window);
 
     // The last step of start-up, once the sign-in window is gone: disables itemOpen, enables
     // itemClose and clears Loading. From here on the program runs in its message loop.
@@ -93,6 +96,9 @@ private:
 // Twips to pixels and back, at the screen's logical resolution.
 int TwipsToPixels(double twips);
 double PixelsToTwips(int pixels);
+
+// A stored colour value as a colour (the athlete's colour is read through Theme).
+QColor WinColor(long value);
 
 // Red, green and blue as a Windows colour value.
 constexpr long RGB(int r, int g, int b) { return long(r) + long(g) * 256 + long(b) * 65536; }

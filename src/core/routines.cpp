@@ -1,6 +1,7 @@
 #include "core/routines.h"
 
 #include "core/regional.h"
+#include "core/rows.h"
 #include "core/shared.h"
 #include "core/store/value.h"
 
@@ -254,4 +255,47 @@ QString GetCommentTag(const QString& name, int index)
 QString SqlDate(const QDate& d)
 {
     return d.isValid() ? d.toString(QStringLiteral("yyyy-MM-dd")) : QString();
+}
+
+QRect OnScreenRect(const QRect& frame, const QList<QRect>& screens)
+{
+    if (screens.isEmpty() || !frame.isValid()) return frame;
+    // On a screen: enough of the frame's top (where its title bar is) to take it with the mouse.
+    const QRect top(frame.left(), frame.top(), frame.width(), qMin(frame.height(), 30));
+    for (const QRect& s : screens) {
+        const QRect seen = s.intersected(top);
+        if (seen.width() >= qMin(frame.width(), 100) && seen.height() >= qMin(top.height(), 20)) return frame;
+    }
+    // The nearest screen: the least distance from the frame's centre to a point of the screen.
+    const QPoint c = frame.center();
+    const QRect* nearest = nullptr;
+    qint64 best = 0;
+    for (const QRect& s : screens) {
+        const qint64 dx = c.x() < s.left() ? qint64(s.left()) - c.x() : (c.x() > s.right() ? qint64(c.x()) - s.right() : 0);
+        const qint64 dy = c.y() < s.top() ? qint64(s.top()) - c.y() : (c.y() > s.bottom() ? qint64(c.y()) - s.bottom() : 0);
+        const qint64 d = dx * dx + dy * dy;
+        if (!nearest || d < best) {
+            nearest = &s;
+            best = d;
+        }
+    }
+    const QRect& s = *nearest;
+    const int w = qMin(frame.width(), s.width()), h = qMin(frame.height(), s.height());
+    const int left = qBound(qint64(s.left()), qint64(frame.left()), qint64(s.right()) - w + 1);
+    const int top2 = qBound(qint64(s.top()), qint64(frame.top()), qint64(s.bottom()) - h + 1);
+    return QRect(left, top2, w, h);
+}
+
+bool AthleteNameTaken(const QString& name, const QString& exceptId)
+{
+    const QString folded = name.trimmed().toCaseFolded();
+    bool taken = false;
+    UserRS.Close();
+    ForEachRowWhile(UserRS, QStringLiteral("select User_ID, Name from User_Info"), [&](Recordset& rs) {
+        const QVariant id = rs.Field(QStringLiteral("User_ID"));
+        if (!exceptId.isEmpty() && QString::number(qlonglong(Val(id))) == exceptId) return true;
+        taken = Str(rs.Field(QStringLiteral("Name"))).trimmed().toCaseFolded() == folded;
+        return !taken;
+    });
+    return taken;
 }

@@ -1,5 +1,7 @@
 #pragma once
 // The small routines every screen calls.
+#include <QList>
+#include <QRect>
 #include <QString>
 #include <QStringList>
 
@@ -32,3 +34,12 @@ QString GetCommentTag(const QString& name, int index);
 // A date as the system pastes it into SQL: "YYYY-MM-DD".
 class QDate;
 QString SqlDate(const QDate& d);
+
+// Where a window's frame belongs on the screens (each screen's available area): a frame that
+// lies on a screen (a reachable part of it) is returned as it is; one that lies on none, or
+// only a sliver of it, is moved onto the nearest screen and made no larger than that screen.
+QRect OnScreenRect(const QRect& frame, const QList<QRect>& screens);
+
+// Whether another athlete (one whose User_ID is not `exceptId`) already has this name,
+// compared without regard to case for any letter. Uses UserRS.
+bool AthleteNameTaken(const QString& name, const QString& exceptId = QString());

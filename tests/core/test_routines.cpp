@@ -176,3 +176,22 @@ TEST_F(UnitsTest, SpeedConversions)
     EXPECT_DOUBLE_EQ(ConvertSpeed(10, "zzMiles", "zzBroken"), 0); // no division by a zero factor
     EXPECT_FALSE(LibraryRS.IsOpen());
 }
+
+TEST(Routines, WindowsComeBackOntoTheNearestScreen)
+{
+    const QList<QRect> screens = {QRect(0, 0, 1280, 720), QRect(1280, 0, 1920, 1080)};
+    // On a screen, also partly: left where it is.
+    EXPECT_EQ(OnScreenRect(QRect(100, 100, 600, 400), screens), QRect(100, 100, 600, 400));
+    EXPECT_EQ(OnScreenRect(QRect(-300, 50, 600, 400), screens), QRect(-300, 50, 600, 400));
+    EXPECT_EQ(OnScreenRect(QRect(1000, 200, 600, 400), screens), QRect(1000, 200, 600, 400));
+    // Beyond the right of the second screen: onto it, against its right edge.
+    EXPECT_EQ(OnScreenRect(QRect(900000, 100, 600, 400), screens), QRect(2600, 100, 600, 400));
+    // Far above the first: onto its top.
+    EXPECT_EQ(OnScreenRect(QRect(200, -900000, 600, 400), screens), QRect(200, 0, 600, 400));
+    // Only the lower part on view, its title bar above the screen: moved down.
+    EXPECT_EQ(OnScreenRect(QRect(200, -380, 600, 400), screens), QRect(200, 0, 600, 400));
+    // Larger than the screen it comes back to: no larger than that screen.
+    EXPECT_EQ(OnScreenRect(QRect(-900000, -900000, 5000, 5000), screens), QRect(0, 0, 1280, 720));
+    // Nothing to go by: as it was.
+    EXPECT_EQ(OnScreenRect(QRect(900000, 0, 10, 10), {}), QRect(900000, 0, 10, 10));
+}

@@ -11,7 +11,9 @@
 
 #include <QComboBox>
 #include <QFile>
+#include <QGuiApplication>
 #include <QPushButton>
+#include <QScreen>
 #include <QToolBar>
 
 namespace {
@@ -91,6 +93,57 @@ TEST_F(StartupTest, ClosingWritesPlacementAndColour)
     EXPECT_EQ(ReadIni(QStringLiteral("Window"), QStringLiteral("Color"), IniFile), QStringLiteral("8421504"));
     EXPECT_NEAR(Val(ReadIni(QStringLiteral("Window"), QStringLiteral("Width"), IniFile)), 9000, 40);
     EXPECT_FALSE(ReadIni(QStringLiteral("Window"), QStringLiteral("Height"), IniFile).isEmpty());
+}
+
+TEST_F(StartupTest, ANormalWindowKeepsItsPlacementOverRestarts)
+{
+    WriteFile(IniFile, "[Window]\nState=0\nLeft=1500\nTop=1200\nHeight=7200\nWidth=9000\n");
+    auto number = [](const char* key) { return Val(ReadIni(QStringLiteral("Window"), QString::fromLatin1(key), IniFile)); };
+    // Shown, so that the window has its frame; closed as the user closes it.
+    for (int start = 0; start < 5; ++start) {
+        frmMain m;
+        m.show();
+        QCoreApplication::processEvents();
+        EXPECT_EQ(m.size(), QSize(TwipsToPixels(9000), TwipsToPixels(7200))) << "start " << start;
+        m.close();
+        EXPECT_NEAR(number("Height"), 7200, 15) << "start " << start;
+        EXPECT_NEAR(number("Width"), 9000, 15) << "start " << start;
+        EXPECT_NEAR(number("Left"), 1500, 15) << "start " << start;
+        EXPECT_NEAR(number("Top"), 1200, 15) << "start " << start;
+    }
+}
+
+TEST_F(StartupTest, SettingsOutOfRangeTakeDefaultsAndWindowsStayOnTheScreen)
+{
+    // A colour no colour can be, and states that are none of 0, 1 and 2: blue, maximised.
+    for (const char* state : {"7", "-1", "99999999999999999999", "1e300"}) {
+        WriteFile(IniFile, QByteArray("[Window]\nColor=99999999999999999999\nState=") + state + "\n");
+        frmMain m;
+        EXPECT_EQ(AppColor, 10841658) << state;
+        EXPECT_TRUE(m.windowState() & Qt::WindowMaximized) << state;
+    }
+
+    // A normal window placed far beyond every screen comes back onto one, and the sign-in
+    // window centred on it is on view too.
+    const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
+    for (const char* place : {"Left=99999999999\nTop=99999999999\n", "Left=-1e30\nTop=1e30\n",
+                              "Left=99999999999999999999999999999999999999\nTop=-5000000\n"}) {
+        WriteFile(IniFile, QByteArray("[Window]\nState=0\nHeight=7200\nWidth=9000\n") + place);
+        frmMain m;
+        m.show();
+        QCoreApplication::processEvents();
+        // On view with its title bar: what the user needs to take it.
+        EXPECT_TRUE(screen.contains(m.frameGeometry().topLeft())) << place;
+        EXPECT_GE(screen.intersected(m.frameGeometry()).width(), m.frameGeometry().width() - 8) << place;
+        EXPECT_GE(screen.intersected(m.frameGeometry()).height(), m.frameGeometry().height() - 8) << place;
+        EXPECT_EQ(m.WindowStateValue(), 0);
+        frmOpen w;
+        w.show();
+        QCoreApplication::processEvents();
+        EXPECT_TRUE(screen.intersects(w.frameGeometry())) << place;
+        EXPECT_TRUE(screen.contains(w.frameGeometry().topLeft())) << place;
+        w.hide();
+    }
 }
 
 TEST_F(StartupTest, FirstStartCreatesTheStoresAndShowsAnEmptyList)
