@@ -480,6 +480,8 @@ void DayView::SetDate(const QDate& d)
 
 void DayView::SetScale(int minutes)
 {
+    // A scale that is none of the five (a damaged setting) leaves the view as it is.
+    if (minutes != 60 && minutes != 30 && minutes != 15 && minutes != 10 && minutes != 5) return;
     const int top = m_scrollMinute >= 0 ? m_scrollMinute : MinuteAtY(verticalScrollBar()->value());
     m_scrollMinute = -1;
     m_model.SetScale(minutes);

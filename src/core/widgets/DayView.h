@@ -30,7 +30,7 @@ public:
     void SetDate(const QDate& d) { m_date = d; }
     QDate Date() const { return m_date; }
 
-    // Minutes of one row: 60, 30, 15, 10 or 5.
+    // Minutes of one row: 60, 30, 15, 10 or 5; any other value is ignored.
     void SetScale(int minutes);
     int Scale() const { return m_scale; }
 

@@ -6,6 +6,7 @@
 #include <QGridLayout>
 #include <QGuiApplication>
 #include <QPainter>
+#include <QScopedValueRollback>
 #include <QTableView>
 #include <QTextCharFormat>
 #include <algorithm>
@@ -157,18 +158,19 @@ void MonthCalendar::SetFirstMonth(int year, int month)
 
 void MonthCalendar::SyncPages()
 {
-    m_syncing = true;
-    QDate first(m_firstYear, m_firstMonth, 1);
-    for (int i = 0; i < m_pages.size(); ++i) {
-        const QDate m = first.addMonths(i);
-        MonthCalendarPage* page = m_pages[i];
-        page->setCurrentPage(m.year(), m.month());
-        // The page's own selected date marks the keyboard focus: the current date where shown.
-        if (m_value.year() == m.year() && m_value.month() == m.month()) page->setSelectedDate(m_value);
-        else page->setSelectedDate(m);
-        page->setCurrentPage(m.year(), m.month());
+    {
+        const QScopedValueRollback<bool> syncing(m_syncing, true);
+        QDate first(m_firstYear, m_firstMonth, 1);
+        for (int i = 0; i < m_pages.size(); ++i) {
+            const QDate m = first.addMonths(i);
+            MonthCalendarPage* page = m_pages[i];
+            page->setCurrentPage(m.year(), m.month());
+            // The page's own selected date marks the keyboard focus: the current date where shown.
+            if (m_value.year() == m.year() && m_value.month() == m.month()) page->setSelectedDate(m_value);
+            else page->setSelectedDate(m);
+            page->setCurrentPage(m.year(), m.month());
+        }
     }
-    m_syncing = false;
     RefreshPages();
 }
 
@@ -274,6 +276,8 @@ void MonthCalendar::ClearPictures()
 
 void MonthCalendar::SetFirstDayOfWeek(Qt::DayOfWeek day)
 {
+    // A value that is no day of the week (a damaged setting) leaves the first day as it is.
+    if (day < Qt::Monday || day > Qt::Sunday) return;
     m_firstDay = day;
     for (MonthCalendarPage* p : m_pages) p->setFirstDayOfWeek(day);
     RefreshPages();

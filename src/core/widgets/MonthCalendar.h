@@ -63,6 +63,7 @@ public:
     int Year() const { return m_firstYear; }
     int Month() const { return m_firstMonth; }
 
+    // Monday (1) to Sunday (7); anything else is ignored.
     void SetFirstDayOfWeek(Qt::DayOfWeek day);
     Qt::DayOfWeek FirstDayOfWeek() const { return m_firstDay; }
     // The colour of the month headers.

@@ -4,6 +4,7 @@
 #include <QTest>
 
 #include "core/widgets/DayView.h"
+#include "core/widgets/MonthCalendar.h"
 
 namespace {
 const QDate kDay(2024, 3, 5);
@@ -205,4 +206,29 @@ TEST(DayViewWidget, ScrollTimeSetBeforeTheViewIsShown)
     whole.show();
     QCoreApplication::processEvents();
     EXPECT_EQ(whole.verticalScrollBar()->value(), 0);
+}
+
+// A scale or a first day of the week out of range (a damaged settings file) changes nothing.
+TEST(DayViewWidget, ValuesOutOfRangeAreIgnored)
+{
+    DayView view;
+    view.SetDate(kDay);
+    view.SetScale(15);
+    view.SetScrollTime(QTime(6, 0));
+    for (int bad : {99, 0, -30, 7}) view.SetScale(bad);
+    EXPECT_EQ(view.Model().Scale(), 15);
+    view.resize(400, 500);
+    view.show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&view));
+    QCoreApplication::processEvents();
+    // The scroll time set before still holds.
+    EXPECT_EQ(view.MinuteAtY(view.verticalScrollBar()->value()), Minutes(6, 0));
+
+    MonthCalendar cal;
+    cal.SetFirstDayOfWeek(Qt::Monday);
+    for (int bad : {12, 0, -1, 8}) cal.SetFirstDayOfWeek(Qt::DayOfWeek(bad));
+    EXPECT_EQ(cal.FirstDayOfWeek(), Qt::Monday);
+    for (int i = 0; i < cal.Months(); ++i) EXPECT_EQ(cal.Page(i)->firstDayOfWeek(), Qt::Monday);
+    cal.SetFirstDayOfWeek(Qt::Sunday);
+    EXPECT_EQ(cal.Page(0)->firstDayOfWeek(), Qt::Sunday);
 }
