@@ -59,7 +59,11 @@ const QSet<QString>& SkippedDestinations()
 
 class Parser {
 public:
-    Parser(const QString& text, const Sink& sink) : m_s(text), m_sink(sink) {}
+    // A lenient parser reads a text whose groups do not balance as well as it can: a closing
+    // brace too many is passed over, a group left open ends with the text, text after the
+    // document's last brace is read on, and a body word ends a font or colour table or a
+    // skipped destination that was never closed.
+    Parser(const QString& text, const Sink& sink, bool lenient = false) : m_s(text), m_sink(sink), m_lenient(lenient) {}
 
     QStringList fonts;
     QList<QColor> colours;   // [0] is automatic (invalid)
@@ -85,12 +89,15 @@ public:
             }
             if (c == '}') {
                 FlushFontName();
-                if (m_stack.isEmpty()) return false;
-                m_state = m_stack.takeLast();
-                --depth;
                 ++i;
                 m_groupStart = false;
-                if (depth == 0) {
+                if (m_stack.isEmpty()) {
+                    if (!m_lenient) return false;
+                    continue;
+                }
+                m_state = m_stack.takeLast();
+                --depth;
+                if (depth == 0 && !m_lenient) {
                     // Only white space may follow the document's last brace.
                     for (; i < n; ++i)
                         if (!m_s[i].isSpace() && m_s[i] != QChar(0)) return false;
@@ -112,7 +119,7 @@ public:
             Text(QString(c));
             ++i;
         }
-        return false;   // unbalanced: the last group never closed
+        return m_lenient;   // unbalanced when not lenient: the last group never closed
     }
 
 private:
@@ -165,6 +172,13 @@ private:
 
     void Apply(const QString& w, bool hasParam, int p)
     {
+        if (m_lenient && (m_state.table || m_state.skip)
+            && (w == QLatin1String("pard") || w == QLatin1String("par") || w == QLatin1String("plain"))) {
+            // A table or destination whose closing brace is missing: the body has begun.
+            FlushFontName();
+            m_state.table = 0;
+            m_state.skip = false;
+        }
         if (m_groupStart && SkippedDestinations().contains(w)) { m_state.skip = true; return; }
         if (w == QLatin1String("fonttbl")) { m_state.table = 1; return; }
         if (w == QLatin1String("colortbl")) { m_state.table = 2; m_colour = QColor(0, 0, 0); m_colourSet = false; return; }
@@ -247,6 +261,7 @@ private:
 
     const QString& m_s;
     const Sink& m_sink;
+    bool m_lenient = false;
     RunState m_state;
     QList<RunState> m_stack;
     bool m_groupStart = false;
@@ -271,6 +286,14 @@ QString EscapeText(const QString& text)
         else out += QStringLiteral("\\u%1?").arg(int(qint16(u)));
     }
     return out;
+}
+
+// Whether the groups of a rich text balance, with nothing but white space after the last.
+bool WellFormed(const QString& text)
+{
+    Sink none;
+    Parser check(text, none);
+    return check.Run();
 }
 
 }  // namespace
@@ -347,16 +370,7 @@ bool RichText::Read(const QString& text, QTextDocument& doc)
         doc.setPlainText(text);
         return false;
     }
-    // First pass: only to know that the text is well formed, so that a broken one is kept
-    // whole as plain text rather than half read.
-    {
-        Sink none;
-        Parser check(text, none);
-        if (!check.Run()) {
-            doc.setPlainText(text);
-            return false;
-        }
-    }
+    const bool lenient = !WellFormed(text);
     QTextCursor cursor(&doc);
     const QFont base = doc.defaultFont();
     Parser* self = nullptr;
@@ -384,7 +398,7 @@ bool RichText::Read(const QString& text, QTextDocument& doc)
         pendingParagraph = true;
         trailingPar = true;
     };
-    Parser parser(text, sink);
+    Parser parser(text, sink, lenient);
     self = &parser;
     parser.Run();
     // The paragraph mark that ends the last paragraph opens no new one.
@@ -406,7 +420,7 @@ QString RichText::PlainText(const QString& text)
         if (pending) out += '\n';
         pending = true;
     };
-    Parser parser(text, sink);
+    Parser parser(text, sink, !WellFormed(text));
     parser.Run();   // a broken text still gives what could be read
     return out;
 }

@@ -92,15 +92,12 @@ TEST(RichText, RoundTripKeepsParagraphsAndFormatting)
     EXPECT_TRUE(emptyBack.toPlainText().isEmpty());
 }
 
-// A log that is no rich text, or rich text that is broken, is shown whole as plain text.
+// A log that is no rich text is shown whole as plain text.
 TEST(RichText, TextThatIsNotRichTextIsKeptAsPlainText)
 {
     const QStringList samples = {
         QStringLiteral("Easy run, legs tired"),
         QStringLiteral("{not rich text at all}"),
-        QStringLiteral("{\\rtf1\\ansi {\\b unfinished bold"),      // a group never closed
-        QStringLiteral("{\\rtf1 text} and more after the end"),     // text after the last brace
-        QStringLiteral("{\\rtf1 }} too many"),
         QString(),
     };
     for (const QString& s : samples) {
@@ -137,4 +134,62 @@ TEST(RichText, PlainTextOfForeignRichText)
 
     // Broken rich text still gives what could be read.
     EXPECT_EQ(RichText::PlainText(QStringLiteral("{\\rtf1 {\\b half")), QStringLiteral("half"));
+}
+
+// Rich text whose braces do not balance shows its words, with the formatting that holds, and
+// never its markup: so an edit and a save cannot turn the markup into the log.
+TEST(RichText, UnbalancedGroupsAreReadAsWellAsTheyCanBe)
+{
+    auto noMarkup = [](const QString& shown) {
+        return !shown.contains('\\') && !shown.contains('{') && !shown.contains('}') && !shown.contains(QLatin1String("rtf"));
+    };
+    struct Case {
+        QString text;
+        QString plain;
+    };
+    const QList<Case> cases = {
+        // A group never closed, and the document's own brace missing.
+        {QStringLiteral("{\\rtf1\\ansi {\\b unfinished bold"), QStringLiteral("unfinished bold")},
+        // Text after the document's last brace is read on.
+        {QStringLiteral("{\\rtf1 text} and more after the end"), QStringLiteral("text and more after the end")},
+        // A closing brace too many, in the middle and at the end.
+        {QStringLiteral("{\\rtf1 one}} two\\par three}"), QStringLiteral("one two\nthree")},
+        {QStringLiteral("{\\rtf1 }} too many"), QStringLiteral(" too many")},
+        // The font table's closing brace missing: the body is not taken for font names.
+        {QStringLiteral("{\\rtf1\\ansi\\deff0{\\fonttbl{\\f0\\fnil Arial;}\n\\pard \\plain\\f0\\fs20 Ran 5 miles\\par\n"
+                        "\\plain\\f0\\fs20\\b hard\\par\n}\n"),
+         QStringLiteral("Ran 5 miles\nhard")},
+        // A colour table and a skipped destination left open.
+        {QStringLiteral("{\\rtf1{\\colortbl ;\\red255\\green0\\blue0;\\pard\\cf1 red words\\par}"), QStringLiteral("red words")},
+        {QStringLiteral("{\\rtf1{\\*\\generator Writer 1.0;\\pard Notes\\par}"), QStringLiteral("Notes")},
+    };
+    for (const Case& c : cases) {
+        const std::string name = c.text.toStdString();
+        EXPECT_EQ(RichText::PlainText(c.text), c.plain) << name;
+        QTextDocument doc;
+        EXPECT_TRUE(RichText::Read(c.text, doc)) << name;
+        EXPECT_EQ(doc.toPlainText(), c.plain) << name;
+        EXPECT_TRUE(noMarkup(doc.toPlainText())) << name;
+        // What is saved after reading holds the words once and reads back the same.
+        QTextDocument again;
+        ASSERT_TRUE(RichText::Read(RichText::Write(doc), again)) << name;
+        EXPECT_EQ(again.toPlainText(), c.plain) << name;
+    }
+
+    // The formatting that holds comes through: bold in an unclosed group, colour of a table
+    // whose brace is missing.
+    QTextDocument doc;
+    RichText::Read(QStringLiteral("{\\rtf1\\ansi plain {\\b bold"), doc);
+    const auto runs = Runs(doc);
+    ASSERT_EQ(runs.size(), 1);
+    ASSERT_EQ(runs[0].size(), 2);
+    EXPECT_FALSE(runs[0][0].bold);
+    EXPECT_EQ(runs[0][1].text, QStringLiteral("bold"));
+    EXPECT_TRUE(runs[0][1].bold);
+    QTextDocument red;
+    RichText::Read(QStringLiteral("{\\rtf1{\\colortbl ;\\red255\\green0\\blue0;\\pard\\cf1 red words\\par}"), red);
+    const auto redRuns = Runs(red);
+    ASSERT_FALSE(redRuns.isEmpty());
+    ASSERT_FALSE(redRuns[0].isEmpty());
+    EXPECT_EQ(redRuns[0][0].colour, QColor(255, 0, 0));
 }
