@@ -18,10 +18,12 @@ ChangePass::ChangePass(QWidget* parent) : QDialog(parent)
     Text1 = new QLineEdit(this);
     Text1->setObjectName(QStringLiteral("Text1"));
     Text1->setEchoMode(QLineEdit::Password);
+    Text1->setMaxLength(50);   // User_Info.Password
     Text1->installEventFilter(this);
     Text2 = new QLineEdit(this);
     Text2->setObjectName(QStringLiteral("Text2"));
     Text2->setEchoMode(QLineEdit::Password);
+    Text2->setMaxLength(50);   // User_Info.Password
 
     Command1 = new QPushButton(QStringLiteral("OK"), this);
     Command1->setObjectName(QStringLiteral("Command1"));

@@ -1,4 +1,5 @@
 #include "core/frmCreateAthelete1.h"
+#include "core/routines.h"
 #include "core/shared.h"
 #include "core/store/value.h"
 #include "core/ui.h"
@@ -131,11 +132,8 @@ void frmCreateAthelete1::on_cmdBack_clicked()
 
 bool frmCreateAthelete1::NameExists(const QString& name)
 {
-    UserRS.Close();
-    UserRS.Open(QStringLiteral("Select Name from User_Info where Name='") + SqlQuote(name) + QStringLiteral("'"));
-    const bool exists = !UserRS.Eof();
-    UserRS.Close();
-    return exists;
+    // Names are compared without regard to case, for every letter.
+    return AthleteNameTaken(name);
 }
 
 void frmCreateAthelete1::on_cmdNext_clicked()
@@ -170,13 +168,11 @@ void frmCreateAthelete1::Finish()
     UserRS.SetField(QStringLiteral("Purpose"), purpose);
     UserRS.SetField(QStringLiteral("sex"), sex);
     UserRS.Update();
+    // The new row's own number: an older store may hold another athlete of this name.
+    CurrentUserID = QString::number(static_cast<qlonglong>(Val(UserRS.Field(QStringLiteral("User_ID")))));
     UserRS.Close();
     DataChanged = true;
 
-    UserRS.Open(QStringLiteral("select * from User_Info where Name = '") + SqlQuote(name) + QStringLiteral("'"));
-    if (!UserRS.Eof())
-        CurrentUserID = QString::number(static_cast<qlonglong>(Val(UserRS.Field(QStringLiteral("User_ID")))));
-    UserRS.Close();
     CurrentUserName = name;
     CurrentUserSex = sex;
     DialogCancelled = false;

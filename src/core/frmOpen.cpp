@@ -5,8 +5,10 @@
 #include "core/opendatabases.h"
 #include "core/plannerlink.h"
 #include "core/routines.h"
+#include "core/rows.h"
 #include "core/shared.h"
 #include "core/store/storeerror.h"
+#include "core/store/transaction.h"
 #include "core/store/value.h"
 #include "core/ui.h"
 
@@ -22,6 +24,7 @@
 #include <QScreen>
 #include <QVBoxLayout>
 #include <cstdlib>
+#include <optional>
 
 namespace {
 const QString Message = QStringLiteral("Message");
@@ -151,6 +154,8 @@ frmOpen::frmOpen(QWidget* parent) : QDialog(parent)
     Combo1->setPalette(QApplication::palette());
 
     QMetaObject::connectSlotsByName(this);
+    // A little wider than the least it needs, so that it can also be made narrower.
+    resize(sizeHint().width() + 60, sizeHint().height());
     Form_Load();
 }
 
@@ -159,7 +164,11 @@ frmOpen::frmOpen(QWidget* parent) : QDialog(parent)
 void frmOpen::OpenAndLoadUsers()
 {
     try {
-        OpenDatabases();
+        if (OpenStores) OpenStores();
+        else OpenDatabases();
+        if (UserConn.IsReadOnly() || LibraryConn.IsReadOnly())
+            MsgBox(QStringLiteral("The database is read-only: your records can be read, but changes cannot be saved."),
+                   vbInformation, Message);
     } catch (const std::exception&) {
         MsgBox(DatabaseMessage, vbInformation, Message);
     }
@@ -192,6 +201,8 @@ void frmOpen::showEvent(QShowEvent* event)
                  qMax(ref.top(), ref.top() + (ref.height() - frameGeometry().height()) / 2));
         }
     }
+    // Centred on a main window that is off the screens, it would be off them too.
+    frmMain::KeepOnScreen(this);
 }
 
 void frmOpen::LoadUsers()
@@ -199,17 +210,15 @@ void frmOpen::LoadUsers()
     Combo1->clear();
     on_Combo1_currentIndexChanged(-1);
     UserRS.Close();
-    UserRS.Open(QStringLiteral("select name,User_ID from User_Info order by name"));
-    if (UserRS.RecordCount() == 0) {
-        Command1->setEnabled(false);
-    } else {
-        while (!UserRS.Eof()) {
-            Combo1->addItem(Str(UserRS.Field(QStringLiteral("Name"))), Str(UserRS.Field(QStringLiteral("User_ID"))));
-            UserRS.MoveNext();
-        }
-    }
+    if (AddAthletes(QStringLiteral("select name,User_ID from User_Info order by name")) == 0) Command1->setEnabled(false);
     if (Combo1->count() > 0) Combo1->setCurrentIndex(0);
-    UserRS.Close();
+}
+
+long frmOpen::AddAthletes(const QString& sql)
+{
+    return ForEachRow(UserRS, sql, [this](Recordset& rs) {
+        Combo1->addItem(Str(rs.Field(QStringLiteral("Name"))), Str(rs.Field(QStringLiteral("User_ID"))));
+    });
 }
 
 void frmOpen::on_Combo1_currentIndexChanged(int index)
@@ -380,7 +389,9 @@ void frmOpen::on_command3_clicked()
     m_lastError.clear();
     if (Combo1->currentIndex() < 0) return;
     const QString name = Combo1->currentText();
-    const QString select = QStringLiteral("select * from User_Info where name='") + SqlQuote(name) + QStringLiteral("'");
+    // The row of the entry chosen: an older store may hold two athletes of one name.
+    const QString id = QString::number(qlonglong(Val(Combo1->currentData().toString())));
+    const QString select = QStringLiteral("select * from User_Info where User_ID=") + id;
 
     Step([] { UserRS.Close(); });
     Step([&] { UserRS.Open(select); });
@@ -409,6 +420,11 @@ void frmOpen::on_command3_clicked()
         return;
 
     WaitCursor cursor;
+    // The athlete's rows go together or not at all; a statement that fails is passed over as
+    // before, and the rest still go.
+    std::optional<StoreTransaction> userRows, libraryRows;
+    Step([&] { userRows.emplace(UserConn); });
+    Step([&] { libraryRows.emplace(LibraryConn); });
     Step([&] { UserRS.Open(select); });
     Step([] {
         if (UserRS.Eof()) return;
@@ -425,6 +441,12 @@ void frmOpen::on_command3_clicked()
         });
     }
     if (m_ended) return;
+    Step([&] {
+        if (userRows) userRows->Commit();
+    });
+    Step([&] {
+        if (libraryRows) libraryRows->Commit();
+    });
 
     Step([this] { RefillAfterRemove(); });
     cursor.Restore();
@@ -436,16 +458,10 @@ void frmOpen::RefillAfterRemove()
     Combo1->clear();
     on_Combo1_currentIndexChanged(-1);
     UserRS.Close();
-    UserRS.Open(QStringLiteral("select * from User_Info"));
-    if (UserRS.RecordCount() == 0) {
+    if (AddAthletes(QStringLiteral("select * from User_Info")) == 0) {
         Command1->setEnabled(false);
         command3->setEnabled(false);
     }
-    while (!UserRS.Eof()) {
-        Combo1->addItem(Str(UserRS.Field(QStringLiteral("Name"))), Str(UserRS.Field(QStringLiteral("User_ID"))));
-        UserRS.MoveNext();
-    }
-    UserRS.Close();
     // Nothing is selected after a removal: the user picks the next athlete.
     Combo1->setCurrentIndex(-1);
 }

@@ -25,6 +25,8 @@ public:
 
     // Ends the process after a fatal error (a store file gone). Tests replace it.
     static inline std::function<void()> Terminate;
+    // Opens the stores (OpenDatabases when not set). Tests replace it.
+    static inline std::function<void()> OpenStores;
 
     // The version the window and the About box show.
     static QString VersionText(const QString& gap);
@@ -51,6 +53,8 @@ private:
     // The window's own closing (not the close box).
     void Unload();
     void RefillAfterRemove();
+    // Adds an entry per athlete of the statement (Name, User_ID); returns the rows read.
+    long AddAthletes(const QString& sql);
 
     Guard m_guard = Guard::SignIn;
     bool m_ended = false;

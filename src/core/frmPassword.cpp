@@ -18,6 +18,7 @@ frmPassword::frmPassword(QWidget* parent) : QDialog(parent)
     Text1 = new QLineEdit(this);
     Text1->setObjectName(QStringLiteral("Text1"));
     Text1->setEchoMode(QLineEdit::Password);
+    Text1->setMaxLength(50);   // User_Info.Password
     auto* label = new QLabel(QStringLiteral("&Password:"), this);
     label->setBuddy(Text1);
 

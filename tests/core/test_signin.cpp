@@ -6,6 +6,7 @@
 #include "core/frmOpen.h"
 #include "core/frmPassword.h"
 #include "core/ini.h"
+#include "core/opendatabases.h"
 #include "core/screens.h"
 #include "core/shared.h"
 #include "core/store/storeerror.h"
@@ -458,6 +459,75 @@ TEST_F(SignInTest, AMissingFileWhileAddingEndsTheProgram)
               QStringLiteral("A Critical Error has occured! Terminating Application.Error:File not found"));
     EXPECT_EQ(Ui().LastMessage().icon, int(vbCritical));
     EXPECT_FALSE(Ui().MessageTexts().join('|').contains(QStringLiteral("Welcome")));
+}
+
+TEST_F(SignInTest, NamesAreUniqueWhateverTheirCaseAndRemovalTakesTheChosenRow)
+{
+    const QString existing = QStringLiteral("\u00c9lodie");
+    AddAthlete(existing);
+    frmOpen w;
+    QStringList trace;
+    Ui().OnDialog(QStringLiteral("frmCreateAthelete1"), [&](QDialog* d) {
+        return RunWizard(d, QStringLiteral("\u00e9LODIE"), true, 0, &trace);
+    });
+    w.command4->click();
+    EXPECT_EQ(trace, QStringList{QStringLiteral("stayed")});
+    EXPECT_TRUE(Ui().MessageTexts().contains(
+        QStringLiteral("This user already exists.  Please try another name or remove existing athlete.")));
+    EXPECT_EQ(CountUser(QStringLiteral("User_Info")), 1);
+
+    // An older store with two athletes of one name: removing the second entry removes that
+    // athlete and its rows only.
+    const QString first = AddAthlete(QStringLiteral("Sam"));
+    const QString second = AddAthlete(QStringLiteral("Sam"));
+    FillAllTables(first);
+    FillAllTables(second);
+    frmOpen list;
+    QList<int> sams;
+    for (int i = 0; i < list.Combo1->count(); ++i)
+        if (list.Combo1->itemText(i) == QLatin1String("Sam")) sams << i;
+    ASSERT_EQ(sams.size(), 2);
+    const int chosen = list.Combo1->itemData(sams[0]).toString() == second ? sams[0] : sams[1];
+    list.Combo1->setCurrentIndex(chosen);
+    Ui().ClearMessages();
+    Ui().AnswerAll({vbYes, vbYes});
+    list.command3->click();
+    EXPECT_EQ(Ui().LastMessage().text, QStringLiteral("User has been removed and all data has been deleted."));
+    EXPECT_EQ(CountUser("User_Info where User_ID=" + first), 1);
+    EXPECT_EQ(CountUser("User_Info where User_ID=" + second), 0);
+    for (const AthleteTable& t : Tables) {
+        EXPECT_EQ(Rows(t, first), 1) << t.table;
+        EXPECT_EQ(Rows(t, second), 0) << t.table;
+    }
+}
+
+TEST_F(SignInTest, ReadOnlyStoresAreSaidOnceAndListed)
+{
+    AddAthlete(QStringLiteral("Reader"));
+    frmOpen::OpenStores = [] {
+        OpenDatabases();
+        // As a folder that cannot be written gives them.
+        UserConn.Close();
+        UserConn.Open(ConnectionString(UserDbPath) + QStringLiteral("Mode=Read;"));
+    };
+    struct Reset {
+        ~Reset() { frmOpen::OpenStores = nullptr; }
+    } reset;
+    frmOpen w;
+    ASSERT_EQ(Ui().Messages().size(), 1);
+    EXPECT_EQ(Ui().LastMessage().text,
+              QStringLiteral("The database is read-only: your records can be read, but changes cannot be saved."));
+    EXPECT_EQ(Ui().LastMessage().title, QStringLiteral("Message"));
+    EXPECT_EQ(Ui().LastMessage().icon, int(vbInformation));
+    ASSERT_EQ(w.Combo1->count(), 1);
+    EXPECT_EQ(w.Combo1->itemText(0), QStringLiteral("Reader"));
+    EXPECT_TRUE(w.Command1->isEnabled());
+
+    // Stores that can be written say nothing.
+    frmOpen::OpenStores = nullptr;
+    Ui().ClearMessages();
+    frmOpen writable;
+    EXPECT_TRUE(Ui().Messages().isEmpty());
 }
 
 }  // namespace
