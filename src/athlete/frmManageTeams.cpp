@@ -1,5 +1,8 @@
 #include "athlete/frmManageTeams.h"
+#include "core/rows.h"
 #include "core/shared.h"
+#include "core/store/transaction.h"
+#include "core/widgets/ListFill.h"
 #include "core/store/value.h"
 #include "core/ui.h"
 
@@ -59,12 +62,8 @@ void frmManageTeams::LoadAthletes()
     Combo1->clear();
     UserRS.Close();
     SqlText = QStringLiteral("select * from User_Info");
-    UserRS.Open(SqlText);
-    while (!UserRS.Eof()) {
-        Combo1->addItem(Str(UserRS.Field("Name")), Str(UserRS.Field("User_ID")));
-        UserRS.MoveNext();
-    }
-    UserRS.Close();
+    ForEachRow(UserRS, SqlText,
+               [this](Recordset& rs) { Combo1->addItem(Str(rs.Field("Name")), Str(rs.Field("User_ID"))); });
     const int signedIn = Combo1->findData(CurrentUserID);
     Combo1->setCurrentIndex(signedIn >= 0 ? signedIn : (Combo1->count() ? 0 : -1));
 }
@@ -74,16 +73,13 @@ void frmManageTeams::LoadGroups()
     lstGroups->clear();
     UserRS.Close();
     SqlText = QStringLiteral("select * from User_Groups");
-    UserRS.Open(SqlText);
-    while (!UserRS.Eof()) {
-        auto* item = new QListWidgetItem(Str(UserRS.Field("Name")));
-        item->setData(Qt::UserRole, Str(UserRS.Field("Group_ID")));
+    listfill::FillList(lstGroups, UserRS, SqlText, [](QListWidget* list, Recordset& rs) {
+        auto* item = new QListWidgetItem(Str(rs.Field("Name")));
+        item->setData(Qt::UserRole, Str(rs.Field("Group_ID")));
         item->setFlags(item->flags() | Qt::ItemIsUserCheckable);
         item->setCheckState(Qt::Unchecked);
-        lstGroups->addItem(item);
-        UserRS.MoveNext();
-    }
-    UserRS.Close();
+        list->addItem(item);
+    });
 }
 
 void frmManageTeams::LoadAssociations()
@@ -93,15 +89,12 @@ void frmManageTeams::LoadAssociations()
     const QString id = Combo1->currentData().toString();
     UserRS.Close();
     SqlText = "select * from user_associations where User_ID=" + id;
-    UserRS.Open(SqlText);
-    while (!UserRS.Eof()) {
-        const QString group = Str(UserRS.Field("Group_ID"));
+    ForEachRow(UserRS, SqlText, [this](Recordset& rs) {
+        const QString group = Str(rs.Field("Group_ID"));
         for (int i = 0; i < lstGroups->count(); ++i)
             if (lstGroups->item(i)->data(Qt::UserRole).toString() == group)
                 lstGroups->item(i)->setCheckState(Qt::Checked);
-        UserRS.MoveNext();
-    }
-    UserRS.Close();
+    });
 }
 
 void frmManageTeams::on_cmdSave_clicked()
@@ -109,6 +102,8 @@ void frmManageTeams::on_cmdSave_clicked()
     if (Combo1->currentIndex() < 0) return;
     const QString id = Combo1->currentData().toString();
     Guard([&] {
+        // The athlete's old teams go only when the new ones are there.
+        StoreTransaction teams(UserConn);
         UserConn.Execute("delete from user_associations where User_ID=" + id);
         for (int i = 0; i < lstGroups->count(); ++i) {
             QListWidgetItem* item = lstGroups->item(i);
@@ -121,5 +116,6 @@ void frmManageTeams::on_cmdSave_clicked()
             UserRS.Update();
             UserRS.Close();
         }
+        teams.Commit();
     });
 }

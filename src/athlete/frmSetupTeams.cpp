@@ -1,5 +1,7 @@
 #include "athlete/frmSetupTeams.h"
 #include "core/shared.h"
+#include "core/widgets/Form.h"
+#include "core/widgets/ListFill.h"
 #include "core/store/value.h"
 #include "core/ui.h"
 
@@ -17,8 +19,7 @@ frmSetupTeams::frmSetupTeams(QWidget* parent) : QDialog(parent)
 
     lstGroups = new QListWidget;
     lstGroups->setObjectName(QStringLiteral("lstGroups"));
-    txtName = new QLineEdit;
-    txtName->setObjectName(QStringLiteral("txtName"));
+    txtName = form::Edit(QStringLiteral("txtName"), 50);   // user_groups.Name
     cmdAdd = new QPushButton(QStringLiteral("&Add"));
     cmdAdd->setObjectName(QStringLiteral("cmdAdd"));
     cmdDelete = new QPushButton(QStringLiteral("&Delete"));
@@ -61,14 +62,11 @@ void frmSetupTeams::loadGroups()
     lstGroups->clear();
     UserRS.Close();
     SqlText = QStringLiteral("select * from user_groups order by name");
-    UserRS.Open(SqlText);
-    while (!UserRS.Eof()) {
-        auto* item = new QListWidgetItem(Str(UserRS.Field("Name")));
-        item->setData(Qt::UserRole, Str(UserRS.Field("Group_ID")));
-        lstGroups->addItem(item);
-        UserRS.MoveNext();
-    }
-    UserRS.Close();
+    listfill::FillList(lstGroups, UserRS, SqlText, [](QListWidget* list, Recordset& rs) {
+        auto* item = new QListWidgetItem(Str(rs.Field("Name")));
+        item->setData(Qt::UserRole, Str(rs.Field("Group_ID")));
+        list->addItem(item);
+    });
 }
 
 void frmSetupTeams::on_cmdAdd_clicked()

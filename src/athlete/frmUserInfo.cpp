@@ -4,6 +4,10 @@
 #include "athlete/energymodel.h"
 #include "athlete/percentpie.h"
 #include "core/regional.h"
+#include "core/routines.h"
+#include "core/rows.h"
+#include "core/store/transaction.h"
+#include "core/widgets/ListFill.h"
 #include "core/shared.h"
 #include "core/store/value.h"
 #include "core/ui.h"
@@ -21,7 +25,9 @@
 #include <QListWidget>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScrollArea>
 #include <QButtonGroup>
+#include <QScopedValueRollback>
 #include <QShowEvent>
 #include <QTabWidget>
 #include <QTableWidget>
@@ -34,35 +40,26 @@ using energy::NumText;
 namespace {
 
 const QString kMessage = QStringLiteral("Message");
-
-QLineEdit* Edit(const QString& name, int width = 0)
-{
-    auto* e = new QLineEdit;
-    e->setObjectName(name);
-    if (width) e->setMaximumWidth(width);
-    return e;
-}
-
-QLabel* Label(const QString& name, const QString& text = QString())
-{
-    auto* l = new QLabel(text);
-    l->setObjectName(name);
-    return l;
-}
-
-QPushButton* Button(const QString& name, const QString& caption)
-{
-    auto* b = new QPushButton(caption);
-    b->setObjectName(name);
-    b->setAutoDefault(false);
-    return b;
-}
+// The size of the text columns the fields are saved in (Name, meal, StartTime), and room
+// for any number a number column holds.
+constexpr int TextColumn = 50;
+constexpr int NumberLength = 24;
 
 QComboBox* Combo(const QString& name)
 {
     auto* c = new QComboBox;
     c->setObjectName(name);
     return c;
+}
+
+// A tab whose page scrolls when the window is made smaller than the page.
+void AddPage(QTabWidget* tabs, QWidget* page, const QString& title)
+{
+    auto* scroll = new QScrollArea;
+    scroll->setFrameShape(QFrame::NoFrame);
+    scroll->setWidgetResizable(true);
+    scroll->setWidget(page);
+    tabs->addTab(scroll, title);
 }
 
 // A column of the open row, Null when the store has no such column.
@@ -97,8 +94,8 @@ frmUserInfo::frmUserInfo(QWidget* parent) : QDialog(parent)
     BuildStrengthTab();
     BuildHeartRateTab();
 
-    cmdSave = Button(QStringLiteral("cmdSave"), QStringLiteral("&Save"));
-    cmdCancel = Button(QStringLiteral("cmdCancel"), QStringLiteral("&Close"));
+    cmdSave = form::Button(QStringLiteral("cmdSave"), QStringLiteral("&Save"));
+    cmdCancel = form::Button(QStringLiteral("cmdCancel"), QStringLiteral("&Close"));
     cmdCancel->setToolTip(QStringLiteral("Close without saving"));
     auto* buttons = new QHBoxLayout;
     buttons->addStretch();
@@ -131,16 +128,16 @@ void frmUserInfo::BuildPersonalTab()
     auto* page = new QWidget;
     auto* g = new QGridLayout(page);
 
-    txtName = Edit(QStringLiteral("txtName"));
-    txtAge = Edit(QStringLiteral("txtAge"), 80);
-    txtHeight = Edit(QStringLiteral("txtHeight"), 80);
-    txtWeight2 = Edit(QStringLiteral("txtWeight2"), 80);
-    txtBMR = Edit(QStringLiteral("txtBMR"), 80);
-    lblStartDate = Label(QStringLiteral("lblStartDate"));
+    txtName = form::Edit(QStringLiteral("txtName"), TextColumn);
+    txtAge = form::Edit(QStringLiteral("txtAge"), NumberLength, 80);
+    txtHeight = form::Edit(QStringLiteral("txtHeight"), NumberLength, 80);
+    txtWeight2 = form::Edit(QStringLiteral("txtWeight2"), NumberLength, 80);
+    txtBMR = form::Edit(QStringLiteral("txtBMR"), NumberLength, 80);
+    lblStartDate = form::Label(QStringLiteral("lblStartDate"));
     Combo1 = Combo(QStringLiteral("Combo1"));
     cboFitness = Combo(QStringLiteral("cboFitness"));
-    cmdCondition = Button(QStringLiteral("cmdCondition"), QStringLiteral("Conditioning &Test..."));
-    cmdCalc = Button(QStringLiteral("cmdCalc"), QStringLiteral("Ca&lc"));
+    cmdCondition = form::Button(QStringLiteral("cmdCondition"), QStringLiteral("Conditioning &Test..."));
+    cmdCalc = form::Button(QStringLiteral("cmdCalc"), QStringLiteral("Ca&lc"));
     cmdCalc->setToolTip(QStringLiteral("Calculate your daily calories from weight, age, sex and condition"));
 
     auto* sexBox = new QGroupBox(QStringLiteral("Sex"));
@@ -197,7 +194,7 @@ void frmUserInfo::BuildPersonalTab()
     Combo1->setMaximumWidth(420);
     cboFitness->setMinimumWidth(140);
     g->setRowStretch(row, 1);
-    tabs->addTab(page, QStringLiteral("Personal"));
+    AddPage(tabs, page, QStringLiteral("Personal"));
 
     connect(cmdCondition, &QPushButton::clicked, this, &frmUserInfo::on_cmdCondition_clicked);
     connect(cmdCalc, &QPushButton::clicked, this, &frmUserInfo::on_cmdCalc_clicked);
@@ -207,38 +204,38 @@ void frmUserInfo::BuildWeightTab()
 {
     auto* page = new QWidget;
     auto* g = new QGridLayout(page);
-    for (int i = 0; i < 4; ++i) lblkg << Label(QStringLiteral("lblkg(%1)").arg(i), QStringLiteral("lbs"));
+    for (int i = 0; i < 4; ++i) lblkg << form::Label(QStringLiteral("lblkg(%1)").arg(i), QStringLiteral("lbs"));
 
-    txtweight = Edit(QStringLiteral("txtweight"), 80);
+    txtweight = form::Edit(QStringLiteral("txtweight"), NumberLength, 80);
     txtweight->setReadOnly(true);
     txtweight->setToolTip(QStringLiteral("Your starting weight from the Personal tab"));
-    txtBMI = Edit(QStringLiteral("txtBMI"), 80);
-    cmdBMI = Button(QStringLiteral("cmdBMI"), QStringLiteral("C&alc"));
+    txtBMI = form::Edit(QStringLiteral("txtBMI"), NumberLength, 80);
+    cmdBMI = form::Button(QStringLiteral("cmdBMI"), QStringLiteral("C&alc"));
     cboFrame = Combo(QStringLiteral("cboFrame"));
     cboFrame->setMinimumWidth(100);
-    txtIdealWeight = Edit(QStringLiteral("txtIdealWeight"), 80);
-    cmdLBM = Button(QStringLiteral("cmdLBM"), QStringLiteral("Ca&lc"));
-    txtBodyfat = Edit(QStringLiteral("txtBodyfat"), 80);
-    cmdBodyfat = Button(QStringLiteral("cmdBodyfat"), QStringLiteral("Calc"));
-    txtTargetWeight = Edit(QStringLiteral("txtTargetWeight"), 80);
-    txtBodyFatGoal = Edit(QStringLiteral("txtBodyFatGoal"), 80);
-    lblDifference = Label(QStringLiteral("lblDifference"));
-    lblLoss = Label(QStringLiteral("lblLoss"), QStringLiteral("Weight loss per week"));
+    txtIdealWeight = form::Edit(QStringLiteral("txtIdealWeight"), NumberLength, 80);
+    cmdLBM = form::Button(QStringLiteral("cmdLBM"), QStringLiteral("Ca&lc"));
+    txtBodyfat = form::Edit(QStringLiteral("txtBodyfat"), NumberLength, 80);
+    cmdBodyfat = form::Button(QStringLiteral("cmdBodyfat"), QStringLiteral("Calc"));
+    txtTargetWeight = form::Edit(QStringLiteral("txtTargetWeight"), NumberLength, 80);
+    txtBodyFatGoal = form::Edit(QStringLiteral("txtBodyFatGoal"), NumberLength, 80);
+    lblDifference = form::Label(QStringLiteral("lblDifference"));
+    lblLoss = form::Label(QStringLiteral("lblLoss"), QStringLiteral("Weight loss per week"));
     cboWeightLoss = Combo(QStringLiteral("cboWeightLoss"));
     cboWeightLoss->setMinimumWidth(80);
     cboWeightLoss->setToolTip(QStringLiteral(
         "Select your weight loss/gain per week. Authorities recommend losing no more than two pounds per week."));
     lblLoss->setBuddy(cboWeightLoss);
-    txtDietLoss = Edit(QStringLiteral("txtDietLoss"), 60);
-    txtExerciseLoss = Edit(QStringLiteral("txtExerciseLoss"), 60);
-    lblmaintain = Label(QStringLiteral("lblmaintain"));
+    txtDietLoss = form::Edit(QStringLiteral("txtDietLoss"), NumberLength, 60);
+    txtExerciseLoss = form::Edit(QStringLiteral("txtExerciseLoss"), NumberLength, 60);
+    lblmaintain = form::Label(QStringLiteral("lblmaintain"));
     lblmaintain->setWordWrap(true);
-    lblCals = Label(QStringLiteral("lblCals"));
-    lblDietSide = Label(QStringLiteral("lblDietSide"), QStringLiteral("calories less per day and burn"));
-    lblExercise = Label(QStringLiteral("lblExercise"));
-    lblExerciseSide = Label(QStringLiteral("lblExerciseSide"), QStringLiteral("calories per day, a"));
-    lblChangeOf = Label(QStringLiteral("lblChangeOf"), QStringLiteral("loss of"));
-    lblWeekly = Label(QStringLiteral("lblWeekly"));
+    lblCals = form::Label(QStringLiteral("lblCals"));
+    lblDietSide = form::Label(QStringLiteral("lblDietSide"), QStringLiteral("calories less per day and burn"));
+    lblExercise = form::Label(QStringLiteral("lblExercise"));
+    lblExerciseSide = form::Label(QStringLiteral("lblExerciseSide"), QStringLiteral("calories per day, a"));
+    lblChangeOf = form::Label(QStringLiteral("lblChangeOf"), QStringLiteral("loss of"));
+    lblWeekly = form::Label(QStringLiteral("lblWeekly"));
 
     auto unitRow = [](QWidget* field, QWidget* unit, QWidget* extra = nullptr) {
         auto* h = new QHBoxLayout;
@@ -295,7 +292,7 @@ void frmUserInfo::BuildWeightTab()
     g->addWidget(goals, row++, 0, 1, 2);
     g->setColumnStretch(1, 1);
     g->setRowStretch(row, 1);
-    tabs->addTab(page, QStringLiteral("Weight"));
+    AddPage(tabs, page, QStringLiteral("Weight"));
 
     connect(cmdBMI, &QPushButton::clicked, this, &frmUserInfo::on_cmdBMI_clicked);
     connect(cmdLBM, &QPushButton::clicked, this, &frmUserInfo::on_cmdLBM_clicked);
@@ -312,10 +309,10 @@ void frmUserInfo::BuildNutritionTab()
     auto* dietBox = new QGroupBox(QStringLiteral("Percent of Calories"));
     auto* dg = new QGridLayout(dietBox);
     cboDiet = Combo(QStringLiteral("cboDiet"));
-    txtCarbs = Edit(QStringLiteral("txtCarbs"), 60);
-    txtProtein = Edit(QStringLiteral("txtProtein"), 60);
-    txtFat = Edit(QStringLiteral("txtFat"), 60);
-    txtPoints = Edit(QStringLiteral("txtPoints"), 60);
+    txtCarbs = form::Edit(QStringLiteral("txtCarbs"), NumberLength, 60);
+    txtProtein = form::Edit(QStringLiteral("txtProtein"), NumberLength, 60);
+    txtFat = form::Edit(QStringLiteral("txtFat"), NumberLength, 60);
+    txtPoints = form::Edit(QStringLiteral("txtPoints"), NumberLength, 60);
     Graph1 = new PercentPie;
     Graph1->setObjectName(QStringLiteral("Graph1"));
     Graph1->SetTitle(QStringLiteral("Percent of Calories Breakdown"));
@@ -343,18 +340,18 @@ void frmUserInfo::BuildNutritionTab()
     lstMeals->setHeaderLabels({QStringLiteral("Meal"), QStringLiteral("Time"), QStringLiteral("Show")});
     lstMeals->setRootIsDecorated(false);
     lstMeals->setMinimumHeight(120);
-    txtMeal = Edit(QStringLiteral("txtMeal"));
-    txtMealTime = Edit(QStringLiteral("txtMealTime"), 90);
+    txtMeal = form::Edit(QStringLiteral("txtMeal"), TextColumn);
+    txtMealTime = form::Edit(QStringLiteral("txtMealTime"), TextColumn, 90);
     txtMealTime->setToolTip(QStringLiteral("Start time, such as 7:00AM"));
     chkShow = new QCheckBox(QStringLiteral("S&how"));
     chkShow->setObjectName(QStringLiteral("chkShow"));
     chkShow->setChecked(true);
     chkShow->setToolTip(QStringLiteral("Show this meal in the daily schedule"));
-    cmdNewMeal = Button(QStringLiteral("cmdNewMeal"), QStringLiteral("Ne&w"));
-    cmdAddMeal = Button(QStringLiteral("cmdAddMeal"), QStringLiteral("&Add/Update"));
-    cmdDelMeal = Button(QStringLiteral("cmdDelMeal"), QStringLiteral("&Delete"));
-    cmdMealUp = Button(QStringLiteral("cmdMealUp"), QStringLiteral("&Up"));
-    cmdMealDown = Button(QStringLiteral("cmdMealDown"), QStringLiteral("Do&wn"));
+    cmdNewMeal = form::Button(QStringLiteral("cmdNewMeal"), QStringLiteral("Ne&w"));
+    cmdAddMeal = form::Button(QStringLiteral("cmdAddMeal"), QStringLiteral("&Add/Update"));
+    cmdDelMeal = form::Button(QStringLiteral("cmdDelMeal"), QStringLiteral("&Delete"));
+    cmdMealUp = form::Button(QStringLiteral("cmdMealUp"), QStringLiteral("&Up"));
+    cmdMealDown = form::Button(QStringLiteral("cmdMealDown"), QStringLiteral("Do&wn"));
     cmdMealDown->setText(QStringLiteral("D&own"));
     mg->addWidget(lstMeals, 0, 0, 1, 6);
     mg->addWidget(Caption(QStringLiteral("&Meal"), txtMeal), 1, 0);
@@ -383,15 +380,15 @@ void frmUserInfo::BuildNutritionTab()
     SS1->setColumnWidth(1, 80);
     SS1->setColumnWidth(2, 64);
     SS1->verticalHeader()->setVisible(false);
-    SSCommand2 = Button(QStringLiteral("SSCommand2"), QStringLiteral("Set Daily &Goals to RDA"));
-    SSCommand3 = Button(QStringLiteral("SSCommand3"), QStringLiteral("Calculate Macro-&Nutrients"));
+    SSCommand2 = form::Button(QStringLiteral("SSCommand2"), QStringLiteral("Set Daily &Goals to RDA"));
+    SSCommand3 = form::Button(QStringLiteral("SSCommand3"), QStringLiteral("Calculate Macro-&Nutrients"));
     gv->addWidget(SS1);
     auto* gb = new QHBoxLayout;
     gb->addWidget(SSCommand2);
     gb->addWidget(SSCommand3);
     gv->addLayout(gb);
     h->addWidget(goalBox, 1);
-    tabs->addTab(page, QStringLiteral("Nutrition"));
+    AddPage(tabs, page, QStringLiteral("Nutrition"));
 
     connect(cmdNewMeal, &QPushButton::clicked, this, &frmUserInfo::on_cmdNewMeal_clicked);
     connect(cmdAddMeal, &QPushButton::clicked, this, &frmUserInfo::on_cmdAddMeal_clicked);
@@ -443,19 +440,19 @@ void frmUserInfo::BuildStrengthTab()
     bg->addWidget(new QLabel(QStringLiteral("Rate")), 0, 1);
     bg->addWidget(new QLabel(QStringLiteral("Example")), 0, 2);
     for (int i = 0; i < 10; ++i) {
-        auto* e = Edit(QStringLiteral("txtInt(%1)").arg(i), 70);
+        auto* e = form::Edit(QStringLiteral("txtInt(%1)").arg(i), NumberLength, 70);
         txtInt << e;
         e->setAccessibleName(QStringLiteral("Intensity %1 rate").arg(i + 1));
         bg->addWidget(Caption(QString::number(i + 1), e), i + 1, 0);
         bg->addWidget(e, i + 1, 1);
         bg->addWidget(new QLabel(examples.value(i)), i + 1, 2);
     }
-    SSCommand1 = Button(QStringLiteral("SSCommand1"), QStringLiteral("&Restore Defaults"));
+    SSCommand1 = form::Button(QStringLiteral("SSCommand1"), QStringLiteral("&Restore Defaults"));
     bg->addWidget(SSCommand1, 11, 0, 1, 3, Qt::AlignLeft);
     bg->setRowStretch(12, 1);
     bg->setColumnStretch(2, 1);
     h->addWidget(burn, 1);
-    tabs->addTab(page, QStringLiteral("Strength/Exercise"));
+    AddPage(tabs, page, QStringLiteral("Strength/Exercise"));
 
     connect(SSCommand1, &QPushButton::clicked, this, &frmUserInfo::on_SSCommand1_clicked);
 }
@@ -468,9 +465,9 @@ void frmUserInfo::BuildHeartRateTab()
     auto* top = new QGridLayout;
     cboHRM = Combo(QStringLiteral("cboHRM"));
     cboHRM->setMinimumWidth(110);
-    txtRHR = Edit(QStringLiteral("txtRHR"), 70);
-    txtMHR = Edit(QStringLiteral("txtMHR"), 70);
-    cmdCalculate = Button(QStringLiteral("cmdCalculate"), QStringLiteral("Calculate &MHR and Training Zones"));
+    txtRHR = form::Edit(QStringLiteral("txtRHR"), NumberLength, 70);
+    txtMHR = form::Edit(QStringLiteral("txtMHR"), NumberLength, 70);
+    cmdCalculate = form::Button(QStringLiteral("cmdCalculate"), QStringLiteral("Calculate &MHR and Training Zones"));
     top->addWidget(Caption(QStringLiteral("Heart Rate Mo&nitor"), cboHRM), 0, 0);
     top->addWidget(cboHRM, 0, 1);
     top->addWidget(Caption(QStringLiteral("&Resting Heart Rate"), txtRHR), 1, 0);
@@ -485,12 +482,12 @@ void frmUserInfo::BuildHeartRateTab()
     auto* zg = new QGridLayout(zones);
     const QStringList captions = energy::ZoneCaptions();
     for (int z = 0; z < 5; ++z) {
-        auto* lo = Edit(QStringLiteral("txtZ1(%1)").arg(2 * z), 60);
-        auto* up = Edit(QStringLiteral("txtZ1(%1)").arg(2 * z + 1), 60);
+        auto* lo = form::Edit(QStringLiteral("txtZ1(%1)").arg(2 * z), NumberLength, 60);
+        auto* up = form::Edit(QStringLiteral("txtZ1(%1)").arg(2 * z + 1), NumberLength, 60);
         txtZ1 << lo << up;
         lo->setAccessibleName(QStringLiteral("Zone %1 lower").arg(z + 1));
         up->setAccessibleName(QStringLiteral("Zone %1 upper").arg(z + 1));
-        auto* cap = Label(QStringLiteral("lblZone(%1)").arg(z), captions[z]);
+        auto* cap = form::Label(QStringLiteral("lblZone(%1)").arg(z), captions[z]);
         lblZone << cap;
         zg->addWidget(Caption(QStringLiteral("Zone &%1").arg(z + 1), lo), z, 0);
         zg->addWidget(lo, z, 1);
@@ -505,8 +502,8 @@ void frmUserInfo::BuildHeartRateTab()
     auto* range = new QGroupBox(QStringLiteral("Training Range"));
     auto* rg = new QGridLayout(range);
     for (int i = 0; i < 2; ++i) {
-        auto* e = Edit(QStringLiteral("txtTrainingHR(%1)").arg(i), 60);
-        auto* cap = Label(QStringLiteral("lblTraining(%1)").arg(i), i == 0 ? QStringLiteral("Lower - 50%")
+        auto* e = form::Edit(QStringLiteral("txtTrainingHR(%1)").arg(i), NumberLength, 60);
+        auto* cap = form::Label(QStringLiteral("lblTraining(%1)").arg(i), i == 0 ? QStringLiteral("Lower - 50%")
                                                                               : QStringLiteral("Upper - 60%"));
         cap->setBuddy(e);
         txtTrainingHR << e;
@@ -520,14 +517,14 @@ void frmUserInfo::BuildHeartRateTab()
     auto* pg = new QHBoxLayout(pulse);
     cboSetTimer = Combo(QStringLiteral("cboSetTimer"));
     cboSetTimer->addItems({QStringLiteral("15 Seconds"), QStringLiteral("30 Seconds"), QStringLiteral("60 Seconds")});
-    lblCountDown = Label(QStringLiteral("lblCountDown"), QStringLiteral("15"));
+    lblCountDown = form::Label(QStringLiteral("lblCountDown"), QStringLiteral("15"));
     QFont f = lblCountDown->font();
     f.setPointSize(f.pointSize() * 2);
     f.setBold(true);
     lblCountDown->setFont(f);
     lblCountDown->setMinimumWidth(50);
     lblCountDown->setAlignment(Qt::AlignCenter);
-    cmdGo = Button(QStringLiteral("cmdGo"), QStringLiteral("Star&t"));
+    cmdGo = form::Button(QStringLiteral("cmdGo"), QStringLiteral("Star&t"));
     pg->addWidget(Caption(QStringLiteral("T&imer"), cboSetTimer));
     pg->addWidget(cboSetTimer);
     pg->addWidget(lblCountDown);
@@ -540,7 +537,7 @@ void frmUserInfo::BuildHeartRateTab()
     v->addWidget(zones);
     v->addLayout(lower);
     v->addStretch();
-    tabs->addTab(page, QStringLiteral("Heart Rate"));
+    AddPage(tabs, page, QStringLiteral("Heart Rate"));
 
     connect(cmdCalculate, &QPushButton::clicked, this, &frmUserInfo::on_cmdCalculate_clicked);
     connect(cmdGo, &QPushButton::clicked, this, &frmUserInfo::on_cmdGo_clicked);
@@ -618,29 +615,33 @@ void frmUserInfo::FillLists()
 
 void frmUserInfo::Form_Load()
 {
-    Loading = true;
-    FillLists();
-    optsex[0]->setChecked(true);
-    optMetric[1]->setChecked(true);
-    optWorkoutIn[1]->setChecked(true);
-    cboSetTimer->setCurrentIndex(0);
-    lblCountDown->setText(QStringLiteral("15"));
-    const bool ok = Guard([this] {
-        FormatGrid();
-        LoadUserRow();
-        SetUnits();
-        FillZones();
-        FillMuscleGroup();
-        LoadMeals();
-        LoadNutrientGoals();
-        LoadCaloricBurn();
-    });
-    if (!ok) {
-        UserRS.Close();
-        LibraryRS.Close();
+    {
+        // Filling the screen is no change of the athlete; the flag goes back also when a step
+        // fails, and is then cleared as the load ends.
+        QScopedValueRollback<bool> loading(Loading, true);
+        FillLists();
+        optsex[0]->setChecked(true);
+        optMetric[1]->setChecked(true);
+        optWorkoutIn[1]->setChecked(true);
+        cboSetTimer->setCurrentIndex(0);
+        lblCountDown->setText(QStringLiteral("15"));
+        const bool ok = Guard([this] {
+            FormatGrid();
+            LoadUserRow();
+            SetUnits();
+            FillZones();
+            FillMuscleGroup();
+            LoadMeals();
+            LoadNutrientGoals();
+            LoadCaloricBurn();
+        });
+        if (!ok) {
+            UserRS.Close();
+            LibraryRS.Close();
+        }
+        SetGraph();
+        cmdAddMeal->setEnabled(false);
     }
-    SetGraph();
-    cmdAddMeal->setEnabled(false);
     Loading = false;
     if (NewAthlete) {
         DataChanged = true;
@@ -759,13 +760,10 @@ void frmUserInfo::FillMuscleGroup()
     lstMuscleGroups->clear();
     LibraryRS.Close();
     SqlText = QStringLiteral("select distinct group from muscle_groups");
-    LibraryRS.Open(SqlText);
-    while (!LibraryRS.Eof()) {
-        const QVariant v = LibraryRS.Field(0);
-        if (!IsNull(v)) lstMuscleGroups->addItem(Str(v));
-        LibraryRS.MoveNext();
-    }
-    LibraryRS.Close();
+    listfill::FillList(lstMuscleGroups, LibraryRS, SqlText, [](QListWidget* list, Recordset& rs) {
+        const QVariant v = rs.Field(0);
+        if (!IsNull(v)) list->addItem(Str(v));
+    });
 }
 
 // ---------------------------------------------------------------------------------- save
@@ -790,11 +788,23 @@ void frmUserInfo::on_cmdSave_clicked()
         return;
     }
 
+    // Two athletes never share a name: removal and the lists go by it.
+    bool taken = false;
+    if (!Guard([&] { taken = AthleteNameTaken(txtName->text().trimmed(), CurrentUserID); })) return;
+    if (taken) {
+        MsgBox(QStringLiteral("This user already exists.  Please try another name or remove existing athlete."),
+               vbInformation, kMessage);
+        tabs->setCurrentIndex(0);
+        txtName->setFocus();
+        txtName->selectAll();
+        return;
+    }
+
     // Everything is written in one transaction: a failure leaves the athlete as it was.
     const QString savedId = CurrentUserID;
     const bool ok = Guard([this] {
-        UserConn.BeginTrans();
-        try {
+        StoreTransaction save(UserConn);
+        {
             if (NewAthlete) WriteFirstWeighIn();
             WriteUserRow();
             if (NewAthlete) {
@@ -807,16 +817,8 @@ void frmUserInfo::on_cmdSave_clicked()
             WriteHrmInfo();
             SaveNutrientGoals();
             SaveIntensity();
-            UserConn.CommitTrans();
-        } catch (...) {
-            UserRS.Close();
-            UserRS2.Close();
-            try {
-                UserConn.RollbackTrans();
-            } catch (...) {
-            }
-            throw;
         }
+        save.Commit();
     });
     if (!ok) {
         CurrentUserID = savedId;

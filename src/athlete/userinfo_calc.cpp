@@ -8,6 +8,7 @@
 #include "core/store/value.h"
 #include "core/ui.h"
 
+#include <QScopedValueRollback>
 #include <QApplication>
 #include <QComboBox>
 #include <QLabel>
@@ -116,18 +117,20 @@ void frmUserInfo::AgeChanged()
 void frmUserInfo::DietLossChanged()
 {
     if (Loading || m_inShare) return;
-    m_inShare = true;
-    txtExerciseLoss->setText(NumText(energy::OtherShare(Val(txtDietLoss->text()))));
-    m_inShare = false;
+    {
+        const QScopedValueRollback<bool> share(m_inShare, true);
+        txtExerciseLoss->setText(NumText(energy::OtherShare(Val(txtDietLoss->text()))));
+    }
     CalcLoss();
 }
 
 void frmUserInfo::ExerciseLossChanged()
 {
     if (Loading || m_inShare) return;
-    m_inShare = true;
-    txtDietLoss->setText(NumText(energy::OtherShare(Val(txtExerciseLoss->text()))));
-    m_inShare = false;
+    {
+        const QScopedValueRollback<bool> share(m_inShare, true);
+        txtDietLoss->setText(NumText(energy::OtherShare(Val(txtExerciseLoss->text()))));
+    }
     CalcLoss();
 }
 

@@ -3,6 +3,8 @@
 #include "athlete/energymodel.h"
 #include "athlete/frmUserInfo.h"
 #include "core/regional.h"
+#include "core/rows.h"
+#include "core/store/transaction.h"
 #include "core/shared.h"
 #include "core/store/value.h"
 #include "core/ui.h"
@@ -10,6 +12,7 @@
 #include <QCheckBox>
 #include <QDateTime>
 #include <QLineEdit>
+#include <QScopedValueRollback>
 #include <QRegularExpression>
 #include <QTableWidget>
 #include <QTreeWidget>
@@ -49,13 +52,22 @@ long NextMealId()
 void frmUserInfo::LoadMeals()
 {
     lstMeals->clear();
-    for (int pass = 0; pass < 2; ++pass) {
-        UserRS.Close();
-        SqlText = "select * from setup_meals where User_ID=" + CurrentUserID + " order by [Position]";
-        UserRS.Open(SqlText);
-        if (!UserRS.Eof() || pass == 1) break;
-        UserRS.Close();
-        // A new athlete starts with the six meals of a usual day.
+    SqlText = "select * from setup_meals where User_ID=" + CurrentUserID + " order by [Position]";
+    const QString sql = SqlText;
+    auto add = [this](Recordset& rs) {
+        const QString start = Str(rs.Field("StartTime"));
+        auto* item = new QTreeWidgetItem(QStringList{Str(rs.Field("meal")), MealTime(start),
+                                                     Val(rs.Field("Show")) != 0 ? QStringLiteral("Yes")
+                                                                                : QStringLiteral("No")});
+        item->setData(0, MealIdRole, Str(rs.Field("Meal_ID")));
+        item->setData(0, PositionRole, Val(rs.Field("Position")));
+        item->setData(0, StartTimeRole, start);
+        lstMeals->addTopLevelItem(item);
+    };
+    UserRS.Close();
+    if (ForEachRow(UserRS, sql, add) == 0) {
+        // A new athlete starts with the six meals of a usual day, all of them or none.
+        StoreTransaction meals(UserConn);
         int position = 1;
         for (const energy::DefaultMeal& m : energy::DefaultMeals()) {
             const long id = NextMealId();
@@ -70,19 +82,9 @@ void frmUserInfo::LoadMeals()
             UserRS.Update();
             UserRS.Close();
         }
+        meals.Commit();
+        ForEachRow(UserRS, sql, add);
     }
-    while (!UserRS.Eof()) {
-        const QString start = Str(UserRS.Field("StartTime"));
-        auto* item = new QTreeWidgetItem(QStringList{Str(UserRS.Field("meal")), MealTime(start),
-                                                     Val(UserRS.Field("Show")) != 0 ? QStringLiteral("Yes")
-                                                                                    : QStringLiteral("No")});
-        item->setData(0, MealIdRole, Str(UserRS.Field("Meal_ID")));
-        item->setData(0, PositionRole, Val(UserRS.Field("Position")));
-        item->setData(0, StartTimeRole, start);
-        lstMeals->addTopLevelItem(item);
-        UserRS.MoveNext();
-    }
-    UserRS.Close();
     for (int c = 0; c < 3; ++c) lstMeals->resizeColumnToContents(c);
 }
 
@@ -90,12 +92,10 @@ void frmUserInfo::MealSelected()
 {
     QTreeWidgetItem* item = lstMeals->currentItem();
     if (!item || !item->isSelected()) return;
-    const bool wasLoading = Loading;
-    Loading = true;   // filling the fields is no change of the athlete
+    const QScopedValueRollback<bool> loading(Loading, true);   // filling the fields is no change of the athlete
     txtMeal->setText(item->text(0));
     txtMealTime->setText(item->data(0, StartTimeRole).toString());
     chkShow->setChecked(item->text(2) == QLatin1String("Yes"));
-    Loading = wasLoading;
 }
 
 void frmUserInfo::on_cmdNewMeal_clicked()
@@ -188,10 +188,13 @@ void frmUserInfo::MoveMeal(int step)
     // The up button writes [Position] and the down button [position]: the same column.
     const QString column = step < 0 ? QStringLiteral("[Position]") : QStringLiteral("[position]");
     Guard([&] {
+        // The two meals change places together or not at all.
+        StoreTransaction swap(UserConn);
         UserConn.Execute("update setup_meals set " + column + "=" + nextPos + " where User_ID=" + CurrentUserID +
                          " and meal_id=" + meal);
         UserConn.Execute("update setup_meals set " + column + "=" + pos + " where User_ID=" + CurrentUserID +
                          " and meal_id=" + next);
+        swap.Commit();
         LoadMeals();
         for (int i = 0; i < lstMeals->topLevelItemCount(); ++i)
             if (lstMeals->topLevelItem(i)->data(0, MealIdRole).toString() == meal)
@@ -206,18 +209,16 @@ void frmUserInfo::on_cmdMealDown_clicked() { MoveMeal(1); }
 
 void frmUserInfo::FormatGrid()
 {
-    const bool wasLoading = Loading;
-    Loading = true;
+    const QScopedValueRollback<bool> loading(Loading, true);
     SS1->setRowCount(0);
     LibraryRS.Close();
     SqlText = QStringLiteral("select * from Nutrients order by Nutrient_ID");
-    LibraryRS.Open(SqlText);
     int row = 0;
-    while (!LibraryRS.Eof()) {
+    ForEachRow(LibraryRS, SqlText, [&](Recordset& rs) {
         SS1->insertRow(row);
-        auto* name = new QTableWidgetItem(Str(LibraryRS.Field("Nutrient")) + " (" + Str(LibraryRS.Field("Measure")) + ")");
+        auto* name = new QTableWidgetItem(Str(rs.Field("Nutrient")) + " (" + Str(rs.Field("Measure")) + ")");
         name->setFlags(name->flags() & ~Qt::ItemIsEditable);
-        auto* rda = new QTableWidgetItem(IsNull(LibraryRS.Field("RDA")) ? QString() : Str(LibraryRS.Field("RDA")));
+        auto* rda = new QTableWidgetItem(IsNull(rs.Field("RDA")) ? QString() : Str(rs.Field("RDA")));
         rda->setFlags(rda->flags() & ~Qt::ItemIsEditable);
         rda->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
         auto* goal = new QTableWidgetItem;
@@ -226,10 +227,7 @@ void frmUserInfo::FormatGrid()
         SS1->setItem(row, 1, goal);
         SS1->setItem(row, 2, rda);
         ++row;
-        LibraryRS.MoveNext();
-    }
-    LibraryRS.Close();
-    Loading = wasLoading;
+    });
 }
 
 void frmUserInfo::FillMacroRows(double targetCals, double protein, double fat, double carbs, bool onlyEmpty)
@@ -247,8 +245,7 @@ void frmUserInfo::FillMacroRows(double targetCals, double protein, double fat, d
 
 void frmUserInfo::LoadNutrientGoals()
 {
-    const bool wasLoading = Loading;
-    Loading = true;
+    const QScopedValueRollback<bool> loading(Loading, true);
     UserRS.Close();
     SqlText = "select * from Nutrient_Goals where User_ID='" + CurrentUserID + "'";
     UserRS.Open(SqlText);
@@ -266,11 +263,12 @@ void frmUserInfo::LoadNutrientGoals()
         FillMacroRows(Val(UserRS.Field("TargetCals")), Val(UserRS.Field("protein")), Val(UserRS.Field("Fat")),
                       Val(UserRS.Field("Carbs")), true);
     UserRS.Close();
-    Loading = wasLoading;
 }
 
 void frmUserInfo::SaveNutrientGoals()
 {
+    // The old goals go only when the new ones are there.
+    StoreTransaction goals(UserConn);
     UserConn.Execute("delete * from Nutrient_Goals where User_ID='" + CurrentUserID + "'");
     UserRS.Close();
     UserRS.Open(QStringLiteral("Nutrient_Goals"));
@@ -283,6 +281,7 @@ void frmUserInfo::SaveNutrientGoals()
     }
     UserRS.Update();
     UserRS.Close();
+    goals.Commit();
 }
 
 void frmUserInfo::on_SSCommand2_clicked()
@@ -310,32 +309,32 @@ void frmUserInfo::LoadCaloricBurn()
 {
     UserRS.Close();
     SqlText = "select * from Intensity where User_ID=" + CurrentUserID + " order by Intensity";
-    UserRS.Open(SqlText);
-    if (UserRS.Eof()) {
-        UserRS.Close();
-        const QList<double>& rates = energy::DefaultIntensity();
-        UserRS.Open(QStringLiteral("Intensity"));
-        for (int i = 0; i < rates.size(); ++i) {
-            UserRS.AddNew();
-            UserRS.SetField("User_ID", Val(CurrentUserID));
-            UserRS.SetField("Intensity", i + 1);
-            UserRS.SetField("Value", rates[i]);
-            UserRS.Update();
-        }
-        UserRS.Close();
-        for (int i = 0; i < txtInt.size(); ++i) txtInt[i]->setText(NumText(rates.value(i)));
-        return;
-    }
     int i = 0;
-    while (!UserRS.Eof() && i < txtInt.size()) {
-        txtInt[i++]->setText(Str(UserRS.Field("Value")));
-        UserRS.MoveNext();
+    const long rows = ForEachRowWhile(UserRS, SqlText, [&](Recordset& rs) {
+        if (i >= txtInt.size()) return false;
+        txtInt[i++]->setText(Str(rs.Field("Value")));
+        return true;
+    });
+    if (rows > 0) return;
+    const QList<double>& rates = energy::DefaultIntensity();
+    StoreTransaction defaults(UserConn);
+    UserRS.Open(QStringLiteral("Intensity"));
+    for (int r = 0; r < rates.size(); ++r) {
+        UserRS.AddNew();
+        UserRS.SetField("User_ID", Val(CurrentUserID));
+        UserRS.SetField("Intensity", r + 1);
+        UserRS.SetField("Value", rates[r]);
+        UserRS.Update();
     }
     UserRS.Close();
+    defaults.Commit();
+    for (int r = 0; r < txtInt.size(); ++r) txtInt[r]->setText(NumText(rates.value(r)));
 }
 
 void frmUserInfo::SaveIntensity()
 {
+    // The old rates go only when the new ones are there.
+    StoreTransaction rates(UserConn);
     UserConn.Execute("delete * from Intensity where User_ID=" + CurrentUserID);
     UserRS.Close();
     UserRS.Open(QStringLiteral("Intensity"));
@@ -347,6 +346,7 @@ void frmUserInfo::SaveIntensity()
         UserRS.Update();
     }
     UserRS.Close();
+    rates.Commit();
 }
 
 void frmUserInfo::on_SSCommand1_clicked()
