@@ -11,6 +11,7 @@
 #include <QPrinter>
 #include <QPushButton>
 #include <QRegularExpression>
+#include <QScopedValueRollback>
 #include <QStringDecoder>
 #include <QVBoxLayout>
 
@@ -18,8 +19,10 @@ namespace {
 constexpr int MediumSize = 2;   // index of "Medium" in cboFontSize
 }
 
-frmWebView::frmWebView(QWidget* parent) : QDialog(parent)
+frmWebView::frmWebView(QWidget* parent, WebViewOptions options) : QDialog(parent), m_options(std::move(options))
 {
+    // The font size set below while building is no choice of the user.
+    const QScopedValueRollback<bool> loading(m_loading, true);
     setObjectName(QStringLiteral("frmWebView"));
     setWindowTitle(QStringLiteral("Print Preview"));
     setWindowFlag(Qt::WindowMaximizeButtonHint, true);
@@ -60,18 +63,18 @@ frmWebView::frmWebView(QWidget* parent) : QDialog(parent)
     cboFontSize->setCurrentIndex(MediumSize);
     QMetaObject::connectSlotsByName(this);
 
-    cmdSend->setVisible(!HelpOpen && static_cast<bool>(SendPage));
+    cmdSend->setVisible(!m_options.help && static_cast<bool>(m_options.sendPage));
     browser->LoadFile(PagePath());
-    if (HelpOpen && !browser->PageTitle().isEmpty())
+    if (m_options.help && !browser->PageTitle().isEmpty())
         setWindowTitle(browser->PageTitle());
-    resize(820, 700);
+    resize(820, 640);
+    setMinimumSize(360, 240);
     CenterForm(this);
-    m_loading = false;
 }
 
 QString frmWebView::PagePath() const
 {
-    QString name = ReportFile;
+    QString name = m_options.file.isEmpty() ? ReportFile : m_options.file;
     name.remove('/');
     name.remove('\\');
     return ProgramFile(name);
@@ -79,19 +82,18 @@ QString frmWebView::PagePath() const
 
 void frmWebView::ShowHelp(const QString& fileName)
 {
-    HelpOpen = true;
-    const QString saved = ReportFile;
-    ReportFile = fileName;
-    ShowModal(QStringLiteral("frmWebView"));
-    ReportFile = saved;
-    HelpOpen = false;
+    WebViewOptions help;
+    help.file = fileName;
+    help.help = true;
+    frmWebView viewer(ui::MainWindow(), help);
+    ShowModal(&viewer);
 }
 
 void frmWebView::on_cmdPrint_clicked()
 {
     QPrinter& printer = ProgramPrinter();
     const QString title = browser->PageTitle();
-    printer.setDocName(title.isEmpty() ? ReportFile : title);
+    printer.setDocName(title.isEmpty() ? (m_options.file.isEmpty() ? ReportFile : m_options.file) : title);
     if (!PrintDialog(&printer)) return;
     QString error;
     if (browser->Print(&printer, &error))
@@ -116,7 +118,7 @@ void frmWebView::on_cmdSave_clicked()
 
 void frmWebView::on_cmdSend_clicked()
 {
-    if (SendPage) SendPage(this);
+    if (m_options.sendPage) m_options.sendPage(this);
 }
 
 void frmWebView::on_cmdClose_clicked() { accept(); }

@@ -6,22 +6,31 @@ class PageView;
 class QComboBox;
 class QPushButton;
 
-// "Print Preview": shows the page named by ReportFile from the program's folder, prints it
-// with "Page N of M" on every sheet, saves a copy and changes the font size.
+class frmWebView;
+
+// What the viewer shows and offers, given by whoever opens it.
+struct WebViewOptions {
+    // The page, a file of the program's folder; empty: the page named by ReportFile.
+    QString file;
+    // A help page: captioned with the page's title, and no sharing.
+    bool help = false;
+    // Sharing of an exchange page; cmdSend is shown only when set (never for help).
+    std::function<void(frmWebView*)> sendPage;
+};
+
+// "Print Preview": shows a page from the program's folder (by default the one named by
+// ReportFile), prints it with "Page N of M" on every sheet, saves a copy and changes the
+// font size.
 class frmWebView : public QDialog {
     Q_OBJECT
 public:
-    explicit frmWebView(QWidget* parent = nullptr);
-
-    // Set by whoever shows a generated page while the preview is up.
-    static inline bool PreviewOpen = false;
-    // Set while a help page is shown: the viewer then offers no sharing.
-    static inline bool HelpOpen = false;
-    // Sharing of an exchange page; the exchange installs it. cmdSend is shown only when set.
-    static inline std::function<void(frmWebView*)> SendPage;
+    explicit frmWebView(QWidget* parent = nullptr, WebViewOptions options = {});
 
     // Shows a page of the program's folder in the viewer, modally, as a help page.
     static void ShowHelp(const QString& fileName);
+
+    const WebViewOptions& Options() const { return m_options; }
+    bool HelpOpen() const { return m_options.help; }
 
     PageView* browser = nullptr;
     QComboBox* cboFontSize = nullptr;
@@ -42,5 +51,6 @@ public slots:
     void on_cboFontSize_currentIndexChanged(int index);
 
 private:
-    bool m_loading = true;
+    WebViewOptions m_options;
+    bool m_loading = false;
 };

@@ -14,6 +14,7 @@
 
 #include <QAction>
 #include <QComboBox>
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -235,7 +236,7 @@ TEST_F(MainShellTest, HelpPagesAboutAndTheNote)
     QStringList shown;
     Ui().OnDialog(QStringLiteral("frmWebView"), [&](QDialog* d) {
         auto* v = static_cast<frmWebView*>(d);
-        EXPECT_TRUE(frmWebView::HelpOpen);
+        EXPECT_TRUE(v->HelpOpen());
         EXPECT_FALSE(v->cmdSend->isVisibleTo(v));
         shown << QFileInfo(v->browser->FilePath()).fileName();
         EXPECT_TRUE(v->windowTitle().startsWith(QStringLiteral("Orvantis Help - "))) << shown.last().toStdString();
@@ -245,7 +246,6 @@ TEST_F(MainShellTest, HelpPagesAboutAndTheNote)
     ReportFile = QStringLiteral("DailyNutrition.htm");
     for (const char* e : {"itemHelpContents", "itmhelpglos", "itmhelpMeasure", "itmhelpFormulas"}) m.Item(e)->trigger();
     EXPECT_EQ(shown, (QStringList{"helpfile.htm", "glossary.htm", "measuring.htm", "formulas.htm"}));
-    EXPECT_FALSE(frmWebView::HelpOpen);
     EXPECT_EQ(ReportFile, QStringLiteral("DailyNutrition.htm"));
 
     // The note to first time users reads the help contents.
@@ -348,6 +348,34 @@ TEST_F(MainShellTest, PreviewFontSizesLeaveTheSourceAlone)
     QFile src(FilePath(QStringLiteral("sizes.htm")));
     ASSERT_TRUE(src.open(QIODevice::ReadOnly));
     EXPECT_TRUE(src.readAll().contains("size=\"3\">Three"));
+}
+
+TEST_F(MainShellTest, WindowsOpenWithinTheScreenAndCanBeMadeSmaller)
+{
+    WriteIni(QStringLiteral("Window"), QStringLiteral("State"), QStringLiteral("0"), IniFile);
+    AddAthlete(QStringLiteral("Sizer"));
+    frmMain m;
+    QList<QWidget*> windows{&m};
+    for (const char* name : {"frmOpen", "frmCreateAthelete1", "ChangePass", "frmPassword", "frmAboutBox", "frmNewUser",
+                             "frmWebView"})
+        windows << ui::CreateScreen(QString::fromLatin1(name), &m);
+    for (QWidget* w : windows) {
+        ASSERT_NE(w, nullptr);
+        const std::string name = w->objectName().toStdString();
+        w->show();
+        QCoreApplication::processEvents();
+        EXPECT_LE(w->frameGeometry().width(), 1280) << name;
+        EXPECT_LE(w->frameGeometry().height(), 720) << name;
+        const QSize least = w->minimumSizeHint().expandedTo(w->minimumSize());
+        EXPECT_LE(least.width(), w->width()) << name;
+        EXPECT_LE(least.height(), w->height()) << name;
+        w->hide();
+    }
+    // The large ones can be made smaller than they open.
+    for (QWidget* w : {windows[0], windows[1], windows[2], windows[7]}) {
+        const QSize least = w->minimumSizeHint().expandedTo(w->minimumSize());
+        EXPECT_TRUE(least.width() < w->width() || least.height() < w->height()) << w->objectName().toStdString();
+    }
 }
 
 }  // namespace
