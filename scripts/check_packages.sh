@@ -80,17 +80,18 @@ compiler=$(cachevar CMAKE_CXX_COMPILER)
 [ -x "$compiler" ] || compiler="c++"
 
 declare -A why=()          # file the build uses -> what it is used for
-declare -a unresolved=()   # -lname that names no file on this machine
+declare -a unresolved=()   # -lname or pkg-config module that is not on this machine
 use() { [ -e "$1" ] && why[$1]="${why[$1]:+${why[$1]}; }$2"; return 0; }
 
 # A -lname against -L folders, then the compiler's own search path.
 resolve_l() {
   local name=$1; shift
-  local d f
+  local d f so=lib$name.so a=lib$name.a
+  case $name in :*) so=${name#:}; a=$so ;; esac   # -l:file names the file itself
   for d in "$@"; do
-    for f in "$d/lib$name.so" "$d/lib$name.a"; do [ -e "$f" ] && { echo "$f"; return 0; }; done
+    for f in "$d/$so" "$d/$a"; do [ -e "$f" ] && { echo "$f"; return 0; }; done
   done
-  for f in "lib$name.so" "lib$name.a"; do
+  for f in "$so" "$a"; do
     f=$("$compiler" -print-file-name="$f" 2>/dev/null) || continue
     [ "${f#/}" != "$f" ] && [ -e "$f" ] && { echo "$f"; return 0; }
   done
