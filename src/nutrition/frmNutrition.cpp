@@ -207,8 +207,6 @@ void frmNutrition::buildUi()
     SS1 = new Grid(this);
     SS1->setObjectName(QStringLiteral("SS1"));
     SS1->setAccessibleName(QStringLiteral("Nutrients"));
-    // The grid is read, not filled in: Tab moves on to the next control, arrows move inside.
-    SS1->setTabKeyNavigation(false);
 
     calmeter = new QProgressBar(this);
     calmeter->setObjectName(QStringLiteral("calmeter"));

@@ -4,11 +4,13 @@
 #include "body/frmWeighIn.h"
 #include "body/weighincalc.h"
 #include "core/shared.h"
+#include "core/store/connection.h"
 #include "core/store/recordset.h"
 #include "core/store/value.h"
 #include "core/widgets/Chart.h"
 
 #include <QComboBox>
+#include <sqlite3.h>
 #include <QDateEdit>
 #include <QGroupBox>
 #include <QLabel>
@@ -17,6 +19,23 @@
 #include <QPushButton>
 
 using namespace weighin;
+
+namespace {
+// Runs SQLite's own SQL on a store's file, for what the system's dialect has no words for: a test
+// renames a table or a column to make a statement fail, then puts it back.
+void RawSql(Connection& conn, const char* sql)
+{
+    sqlite3* db = nullptr;
+    ASSERT_EQ(sqlite3_open(conn.Path().toUtf8().constData(), &db), SQLITE_OK);
+    sqlite3_busy_timeout(db, 2000);
+    char* error = nullptr;
+    const int rc = sqlite3_exec(db, sql, nullptr, nullptr, &error);
+    const std::string text = error ? error : "";
+    sqlite3_free(error);
+    sqlite3_close(db);
+    ASSERT_EQ(rc, SQLITE_OK) << text;
+}
+}  // namespace
 
 TEST(WeighInCalc, BmiInEitherUnitAndNothingWithoutWeightOrHeight)
 {
@@ -291,4 +310,66 @@ TEST_F(WeighInScreen, MetricLabelsGoalsAndTheListSetTheDate)
     EXPECT_EQ(f.txtData[14]->text(), "80");
     EXPECT_FALSE(f.cmdSave->isEnabled());
     SetCalendarDateProvider(nullptr);
+}
+
+// The history's item list reads in words; each item keeps its column for the statement.
+TEST_F(WeighInScreen, HistoryItemsInWordsGraphTheirColumns)
+{
+    EXPECT_EQ(ColumnCaption("Bicep_Left"), "Bicep Left");
+    EXPECT_EQ(ColumnCaption("Neck"), "Neck");
+    UserConn.Execute(QString("insert into WeighIn (User_ID, [Date], weight, Bicep_Left) values ('%1', #2026-10-01#, 180, 14.5)").arg(id));
+    frmWeighIn f;
+    const int bicep = f.cboGraph->findText("Bicep Left");
+    ASSERT_GE(bicep, 0);
+    EXPECT_EQ(f.cboGraph->itemData(bicep).toString(), "Bicep_Left");
+    for (int i = 0; i < f.cboGraph->count(); ++i)
+        EXPECT_FALSE(f.cboGraph->itemText(i).contains('_')) << f.cboGraph->itemText(i).toStdString();
+    f.txtStartDate->setDate(QDate(2026, 9, 1));
+    f.txtEndDate->setDate(QDate(2026, 11, 30));
+    f.cboGraph->setCurrentIndex(bicep);
+    ASSERT_EQ(f.Chart1->PointCount(), 1);
+    EXPECT_DOUBLE_EQ(f.Chart1->SeriesValue(0, 0), 14.5);
+    EXPECT_TRUE(f.Chart1->Title().startsWith("Bicep Left - "));
+    EXPECT_TRUE(Ui().MessageTexts().isEmpty());
+}
+
+// A failing load leaves the view listening; a save that can't write the weigh-in keeps the
+// goals as they were too.
+TEST_F(WeighInScreen, FailuresLeaveTheViewWorkingAndNothingHalfSaved)
+{
+    AddWeighIn("2026-10-01", 185, 2050);
+    SetCalendarDateProvider([] { return QDate(2026, 11, 1); });
+    frmWeighIn f;
+    RawSql(UserConn, "alter table WeighIn rename to WeighIn_gone");
+    f.cboDate->setDate(QDate(2026, 11, 2));
+    ASSERT_EQ(Ui().Messages().size(), 1);
+    EXPECT_EQ(Ui().LastMessage().title, "Error");
+    RawSql(UserConn, "alter table WeighIn_gone rename to WeighIn");
+    Ui().ClearMessages();
+    f.cboDate->setDate(QDate(2026, 10, 1));
+    EXPECT_EQ(f.txtData[14]->text(), "185");
+    EXPECT_TRUE(f.cmdDelete->isEnabled());
+    EXPECT_TRUE(Ui().MessageTexts().isEmpty());
+
+    RawSql(UserConn, "alter table WeighIn rename column Photo to Photo_gone");
+    f.cboDate->setDate(QDate(2026, 11, 1));
+    f.txtData[14]->setText("181");
+    f.txtGoal[0]->setText("14");
+    f.cmdSave->click();
+    ASSERT_EQ(Ui().Messages().size(), 1);
+    EXPECT_EQ(Ui().LastMessage().title, "Error");
+    RawSql(UserConn, "alter table WeighIn rename column Photo_gone to Photo");
+    EXPECT_EQ(CountUser("WeighIn_goals"), 0);
+    EXPECT_EQ(CountUser("WeighIn"), 1);
+    SetCalendarDateProvider(nullptr);
+}
+
+// The view fits a 1280x720 screen and can be made smaller.
+TEST_F(WeighInScreen, FitsTheScreen)
+{
+    frmWeighIn f;
+    EXPECT_LE(f.width(), 1280);
+    EXPECT_LE(f.height(), 680);
+    EXPECT_LE(f.minimumSizeHint().width(), 1000);
+    EXPECT_LE(f.minimumSizeHint().height(), 600);
 }

@@ -1,6 +1,7 @@
 #include "calendar/calendar_fixture.h"
 
 #include "calendar/calendarstore.h"
+#include "core/widgets/Theme.h"
 #include "calendar/icons.h"
 #include "calendar/screens.h"
 #include "core/ui.h"
@@ -123,7 +124,7 @@ TEST_F(CalendarTest, DayViewEntriesAndDayCalories)
     EXPECT_EQ(entries[1]->start.time(), QTime(17, 30));
     EXPECT_EQ(entries[1]->hiddenText, QStringLiteral("Strength\t5"));
     EXPECT_EQ(entries[2]->end, QDateTime(kDay.addDays(1), QTime(0, 0)));
-    EXPECT_EQ(entries[0]->colour, AppQColor());
+    EXPECT_EQ(entries[0]->colour, theme::Color());
     // A new entry takes a key the day doesn't have.
     EXPECT_GT(view.AddEntry(QDateTime(kDay, QTime(9, 0)), QDateTime(kDay, QTime(9, 30)), "new", "", Qt::red), 6);
 

@@ -1,6 +1,7 @@
 #include "calendar/calendar_fixture.h"
 
 #include <QComboBox>
+#include <sqlite3.h>
 #include <QDialog>
 #include <QLabel>
 #include <QLineEdit>
@@ -18,6 +19,23 @@
 #include "core/widgets/DayView.h"
 #include "core/widgets/MonthCalendar.h"
 #include "core/widgets/RichText.h"
+
+namespace {
+// Runs SQLite's own SQL on a store's file, for what the system's dialect has no words for: a test
+// renames a table or a column to make a statement fail, then puts it back.
+void RawSql(Connection& conn, const char* sql)
+{
+    sqlite3* db = nullptr;
+    ASSERT_EQ(sqlite3_open(conn.Path().toUtf8().constData(), &db), SQLITE_OK);
+    sqlite3_busy_timeout(db, 2000);
+    char* error = nullptr;
+    const int rc = sqlite3_exec(db, sql, nullptr, nullptr, &error);
+    const std::string text = error ? error : "";
+    sqlite3_free(error);
+    sqlite3_close(db);
+    ASSERT_EQ(rc, SQLITE_OK) << text;
+}
+}  // namespace
 
 namespace {
 const QDate kDay(2024, 3, 5);
@@ -281,4 +299,93 @@ TEST_F(PlannerTest, AddingThroughALogOnSeveralDays)
     const QPixmap shot = p.grab();
     EXPECT_FALSE(shot.isNull());
     shot.save(QStringLiteral("/tmp/orvantis_planner_test.png"));
+}
+
+// A statement that fails while a day loads shows its error and leaves the planner listening:
+// the next change of the water and the next day work.
+TEST_F(PlannerTest, AFailedLoadLeavesThePlannerWorking)
+{
+    frmSched2& p = Open();
+    RawSql(UserConn, "alter table daily_water rename to daily_water_gone");
+    p.CalView->SetValue(kDay.addDays(1));
+    ASSERT_EQ(Ui().Messages().size(), 1);
+    EXPECT_EQ(Ui().LastMessage().title, QStringLiteral("Error"));
+    RawSql(UserConn, "alter table daily_water_gone rename to daily_water");
+    Ui().ClearMessages();
+
+    p.txtWater->setText(QStringLiteral("6"));
+    EXPECT_EQ(CountUser(QStringLiteral("daily_water where water=6")), 1);
+    AddRow(QStringLiteral("daily_log"), {{"User_ID", id}, {"Date", kDay.addDays(2)}, {"Log", "hills"}});
+    p.CalView->SetValue(kDay.addDays(2));
+    EXPECT_EQ(p.RTB->toPlainText(), QStringLiteral("hills"));
+    EXPECT_EQ(p.txtWater->text(), QStringLiteral("0"));
+    EXPECT_TRUE(Ui().MessageTexts().isEmpty());
+}
+
+// The day's water and log are replaced as a whole: when the new row can't be written the old
+// one stays.
+TEST_F(PlannerTest, AFailedSaveKeepsTheOldWaterAndLog)
+{
+    AddRow(QStringLiteral("daily_water"), {{"User_ID", id}, {"Date", kDay}, {"water", 4}});
+    AddRow(QStringLiteral("daily_log"), {{"User_ID", id}, {"Date", kDay}, {"Log", "easy run"}});
+    frmSched2& p = Open();
+    ASSERT_EQ(p.txtWater->text(), QStringLiteral("4"));
+
+    RawSql(UserConn, "alter table daily_water rename column water to water_gone");
+    p.txtWater->setText(QStringLiteral("7"));
+    EXPECT_EQ(Ui().Messages().size(), 1);
+    RawSql(UserConn, "alter table daily_water rename column water_gone to water");
+    EXPECT_EQ(CountUser(QStringLiteral("daily_water")), 1);
+    EXPECT_EQ(Val(UserValue(QStringLiteral("select water from daily_water"))), 4);
+
+    RawSql(UserConn, "alter table daily_log rename column Log to Log_gone");
+    p.RTB->setPlainText(QStringLiteral("hard intervals"));
+    p.CalView->SetValue(kDay.addDays(1));          // the log is saved before the day changes
+    EXPECT_EQ(Ui().Messages().size(), 2);
+    RawSql(UserConn, "alter table daily_log rename column Log_gone to Log");
+    EXPECT_EQ(CountUser(QStringLiteral("daily_log")), 1);
+    EXPECT_EQ(Str(UserValue(QStringLiteral("select Log from daily_log"))), QStringLiteral("easy run"));
+    EXPECT_TRUE(p.LogDirty());                      // still on screen, to be saved again
+}
+
+// Settings out of range, as a hand-edited file may hold them, keep their defaults.
+TEST_F(PlannerTest, SettingsOutOfRangeTakeTheirDefaults)
+{
+    WriteIni("Program", "FirstDay", "12", IniFile);
+    WriteIni("Program", "Interval", "99", IniFile);
+    WriteIni("Program", "Tab", "42", IniFile);
+    WriteIni("Program", "Cal", "50", IniFile);
+    {
+        frmSched2& p = Open();
+        EXPECT_EQ(p.CalView->FirstDayOfWeek(), Qt::Sunday);
+        EXPECT_EQ(p.cbointerval->currentIndex(), 0);
+        EXPECT_EQ(p.DayView->Model().Scale(), 60);
+        EXPECT_EQ(p.Tab1->currentIndex(), 0);
+        EXPECT_EQ(p.CalView->Months(), 1);
+        planner.reset();
+    }
+    WriteIni("Program", "FirstDay", "-3", IniFile);
+    WriteIni("Program", "Interval", "two", IniFile);
+    WriteIni("Program", "Tab", "-1", IniFile);
+    WriteIni("Program", "Cal", "0", IniFile);
+    {
+        frmSched2& p = Open();
+        EXPECT_EQ(p.CalView->FirstDayOfWeek(), Qt::Sunday);
+        EXPECT_EQ(p.DayView->Model().Scale(), 60);
+        EXPECT_EQ(p.Tab1->currentIndex(), 0);
+        EXPECT_EQ(p.CalView->Months(), 1);
+        planner.reset();
+    }
+    // Values in range still count.
+    WriteIni("Program", "FirstDay", "1", IniFile);
+    WriteIni("Program", "Interval", "4", IniFile);
+    WriteIni("Program", "Tab", "4", IniFile);
+    WriteIni("Program", "Cal", "2", IniFile);
+    frmSched2& p = Open();
+    EXPECT_EQ(p.CalView->FirstDayOfWeek(), Qt::Monday);
+    EXPECT_EQ(p.DayView->Model().Scale(), 5);
+    EXPECT_EQ(p.Tab1->currentIndex(), 3);
+    EXPECT_EQ(p.CalView->Months(), 2);
+    EXPECT_LE(p.minimumSizeHint().width(), 1280);
+    EXPECT_LE(p.minimumSizeHint().height(), 680);
 }

@@ -3,6 +3,7 @@
 
 #include "core/routines.h"
 #include "core/shared.h"
+#include "core/store/connection.h"
 #include "core/store/recordset.h"
 #include "core/store/value.h"
 #include "core/widgets/Chart.h"
@@ -12,16 +13,36 @@
 #include "nutrition/frmNutrition.h"
 #include "nutrition/screens.h"
 
+#include <QApplication>
 #include <QButtonGroup>
 #include <QComboBox>
+#include <sqlite3.h>
 #include <QDateEdit>
 #include <QLineEdit>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QTabBar>
 #include <QTreeWidget>
+#include <QtTest/QTest>
 
 using namespace daily;
+
+namespace {
+// Runs SQLite's own SQL on a store's file, for what the system's dialect has no words for: a test
+// renames a table or a column to make a statement fail, then puts it back.
+void RawSql(Connection& conn, const char* sql)
+{
+    sqlite3* db = nullptr;
+    ASSERT_EQ(sqlite3_open(conn.Path().toUtf8().constData(), &db), SQLITE_OK);
+    sqlite3_busy_timeout(db, 2000);
+    char* error = nullptr;
+    const int rc = sqlite3_exec(db, sql, nullptr, nullptr, &error);
+    const std::string text = error ? error : "";
+    sqlite3_free(error);
+    sqlite3_close(db);
+    ASSERT_EQ(rc, SQLITE_OK) << text;
+}
+}  // namespace
 
 TEST(DailyArithmetic, CalorieMeterBands)
 {
@@ -380,15 +401,12 @@ TEST_F(NutritionScreen, BadInputLeavesTheDiaryAsItWas)
     EXPECT_EQ(f.List2->topLevelItemCount(), 1);
     // A row whose unit is unknown scales by the amounts alone.
     UserConn.Execute("update daily_nutrition set Measure='handful', amount=2");
-    frmChangeAmt::FoodLine = banana + "\tBanana test\t2 handful\t200";
-    frmChangeAmt::FoodID = banana;
-    frmChangeAmt::MealID = "1";
-    frmChangeAmt::MealDate = "2026-11-20";
-    EXPECT_FALSE(frmChangeAmt::ChangeAmount(3, "handful", 2, "handful").isEmpty());
+    FoodPortion portion{banana + "\tBanana test\t2 handful\t200", banana, "1", QString(), "2026-11-20"};
+    EXPECT_FALSE(frmChangeAmt::ChangeAmount(portion, 3, "handful", 2, "handful").isEmpty());
     EXPECT_DOUBLE_EQ(Diary("calories", row), 300);
     // No such row: an empty line, nothing written.
-    frmChangeAmt::FoodID = "987654";
-    EXPECT_TRUE(frmChangeAmt::ChangeAmount(3, "g", 1, "g").isEmpty());
+    portion.foodId = "987654";
+    EXPECT_TRUE(frmChangeAmt::ChangeAmount(portion, 3, "g", 1, "g").isEmpty());
 }
 
 TEST_F(NutritionScreen, DeleteCopyAndPasteMeals)
@@ -497,11 +515,8 @@ TEST_F(NutritionScreen, SavedMealIngredientsChangeByTypeAndMealsLeaveTheLibrary)
     UserConn.Execute(QString("insert into daily_nutrition (User_ID, [Date], Meal_ID, Type, Food_ID, Name, amount, Measure, calories, points) "
                              "values ('%1', #2020-01-01#, 9999, '555', %2, 'Ingredient', 100, 'g', 80, 1)")
                          .arg(id, banana));
-    frmChangeAmt::FoodID = banana;
-    frmChangeAmt::MealID = "0";
-    frmChangeAmt::MealType = "555";
-    frmChangeAmt::MealDate = "2026-11-20";
-    const QString line = frmChangeAmt::ChangeAmount(250, "g", 100, "g");
+    const FoodPortion ingredient{QString(), banana, "0", "555", "2026-11-20"};
+    const QString line = frmChangeAmt::ChangeAmount(ingredient, 250, "g", 100, "g");
     EXPECT_EQ(GetTabField(line, 3), "250 g");
     EXPECT_EQ(GetTabField(line, 4), "200");
     EXPECT_DOUBLE_EQ(Diary("points", "meal_id=9999 and type='555'"), 2.5);
@@ -524,4 +539,78 @@ TEST_F(NutritionScreen, SavedMealIngredientsChangeByTypeAndMealsLeaveTheLibrary)
     f.cmdDelMeal->click();
     EXPECT_EQ(CountLibrary("foods where group_id=65 and name='Team''s lunch'"), 0);
     EXPECT_EQ(CountLibrary("Recipe_Ingredients where recipe_id=0"), 0);
+}
+
+// A statement that fails inside a handler shows its error and leaves the view listening: the
+// next handler works and shows nothing.
+TEST_F(NutritionScreen, AFailedHandlerLeavesTheViewWorking)
+{
+    UserConn.Execute(QString("insert into daily_nutrition (User_ID, [Date], Meal_ID, Food_ID, Name, amount, Measure, calories) "
+                             "values ('%1', #2026-11-20#, 2, %2, 'Banana test', 100, 'g', 200)")
+                         .arg(id, banana));
+    frmNutrition f;
+    RawSql(LibraryConn, "alter table food_groups rename to food_groups_gone");
+    f.ribbon->button(2)->click();   // the recipes' groups
+    ASSERT_EQ(Ui().Messages().size(), 1);
+    EXPECT_EQ(Ui().LastMessage().title, "Error");
+    RawSql(LibraryConn, "alter table food_groups_gone rename to food_groups");
+    Ui().ClearMessages();
+
+    f.Tab1->setCurrentIndex(1);     // Lunch
+    ASSERT_EQ(f.List2->topLevelItemCount(), 1);
+    EXPECT_EQ(f.List2->topLevelItem(0)->text(frmNutrition::lstFood), "Banana test");
+    f.ribbon->button(0)->click();
+    EXPECT_GE(f.Combo1->findText("Test Foods"), 0);
+    EXPECT_TRUE(Ui().MessageTexts().isEmpty());
+}
+
+// Adding a food replaces a row of the same name in the meal; when the new row can't be
+// written the old one stays.
+TEST_F(NutritionScreen, AFailedAddKeepsTheRowItReplaces)
+{
+    frmNutrition f;
+    // The same food reaches the meal from elsewhere while the view is open.
+    UserConn.Execute(QString("insert into daily_nutrition (User_ID, [Date], Meal_ID, Food_ID, Name, amount, Measure, calories) "
+                             "values ('%1', #2026-11-20#, 1, %2, 'Banana test', 100, 'g', 200)")
+                         .arg(id, banana));
+    RawSql(UserConn, "alter table daily_nutrition rename column Type to Type_gone");
+    Choose(f, "Banana test");
+    Ui().OnDialog("frmChangeAmt", [](QDialog*) { return 0; });
+    f.cmdAdd->click();
+    ASSERT_EQ(Ui().Messages().size(), 1);
+    EXPECT_EQ(Ui().LastMessage().title, "Error");
+    EXPECT_TRUE(Ui().DialogsShown().isEmpty());
+    RawSql(UserConn, "alter table daily_nutrition rename column Type_gone to Type");
+    EXPECT_EQ(CountUser("daily_nutrition where meal_id=1 and name='Banana test'"), 1);
+    EXPECT_DOUBLE_EQ(Diary("calories", "meal_id=1"), 200);
+    EXPECT_EQ(f.List2->topLevelItemCount(), 1);   // what the store holds
+}
+
+// The view fits a 1280x720 screen and can be made smaller; Tab leaves the nutrient grid,
+// the arrows move inside it.
+TEST_F(NutritionScreen, FitsTheScreenAndTabLeavesTheGrid)
+{
+    frmNutrition f;
+    EXPECT_LE(f.width(), 1280);
+    EXPECT_LE(f.height(), 680);
+    EXPECT_LE(f.minimumSizeHint().width(), 1000);
+    EXPECT_LE(f.minimumSizeHint().height(), 600);
+
+    f.show();
+    QApplication::setActiveWindow(&f);
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&f));
+    f.SS1->setFocus();
+    f.SS1->SetActiveCell(1, frmNutrition::colNutrient);
+    QTest::keyClick(f.SS1, Qt::Key_Down);
+    EXPECT_TRUE(f.SS1->hasFocus());
+    EXPECT_EQ(f.SS1->ActiveRow(), 2);
+    QWidget* next = f.SS1->nextInFocusChain();
+    while (next && (next->focusPolicy() & Qt::TabFocus) != Qt::TabFocus)
+        next = next->nextInFocusChain();
+    QTest::keyClick(f.SS1, Qt::Key_Tab);
+    EXPECT_FALSE(f.SS1->hasFocus());
+    EXPECT_EQ(QApplication::focusWidget(), next);
+    f.SS1->setFocus();
+    QTest::keyClick(f.SS1, Qt::Key_Backtab, Qt::ShiftModifier);
+    EXPECT_FALSE(f.SS1->hasFocus());
 }

@@ -3,8 +3,11 @@
 // the categories dialog.
 #include <gtest/gtest.h>
 #include <QComboBox>
+#include <sqlite3.h>
 #include <QCoreApplication>
 #include <QDir>
+#include <QFontMetrics>
+#include <QHeaderView>
 #include <QImage>
 #include <QLabel>
 #include <QLineEdit>
@@ -17,6 +20,7 @@
 
 #include "core/regional.h"
 #include "core/shared.h"
+#include "core/store/connection.h"
 #include "core/store/recordset.h"
 #include "core/store/value.h"
 #include "core/widgets/Chart.h"
@@ -26,6 +30,23 @@
 #include "nutrition/frmFoods.h"
 #include "nutrition/frmMoveFood.h"
 #include "nutrition/frmNutSearch.h"
+
+namespace {
+// Runs SQLite's own SQL on a store's file, for what the system's dialect has no words for: a test
+// renames a table or a column to make a statement fail, then puts it back.
+void RawSql(Connection& conn, const char* sql)
+{
+    sqlite3* db = nullptr;
+    ASSERT_EQ(sqlite3_open(conn.Path().toUtf8().constData(), &db), SQLITE_OK);
+    sqlite3_busy_timeout(db, 2000);
+    char* error = nullptr;
+    const int rc = sqlite3_exec(db, sql, nullptr, nullptr, &error);
+    const std::string text = error ? error : "";
+    sqlite3_free(error);
+    sqlite3_close(db);
+    ASSERT_EQ(rc, SQLITE_OK) << text;
+}
+}  // namespace
 
 namespace {
 
@@ -405,8 +426,7 @@ TEST_F(FoodsTest, CategoriesAndTheSearchQuestion)
     EXPECT_EQ(Ui().LastMessage().text, "You must have at least one category for the program to function.");
     EXPECT_EQ(CountLibrary("food_groups where group_id=65"), 1);
 
-    frmNutSearch::SearchText = "kiwano";
-    frmNutSearch q;
+    frmNutSearch q("kiwano");
     EXPECT_EQ(q.lblMessage->text(),
               "kiwano is not found in this category.\nWould you like to add it to the Foods Database or\n"
               "would you like to search for it in all the categories?");
@@ -418,9 +438,7 @@ TEST_F(FoodsTest, CategoriesAndTheSearchQuestion)
 
 TEST_F(FoodsTest, ScreenDrawsWithAFoodShown)
 {
-    frmFoods::FoodName = "Bananas, raw";
-    frmFoods f;
-    EXPECT_TRUE(frmFoods::FoodName.isEmpty());
+    frmFoods f(nullptr, "Bananas, raw");
     EXPECT_EQ(f.txtFood->text(), "Bananas, raw");          // the food handed in is shown
     f.resize(1200, 760);
     f.show();
@@ -492,4 +510,46 @@ TEST_F(FoodsTest, SeededServingsHoldWhatTheirMeasureSays)
         EXPECT_TRUE(names.contains(name + ", by weight")) << name.toStdString() << " (" << measure.toStdString() << ")";
     }
     EXPECT_GT(count, 1000);
+}
+
+// A search that fails leaves the view listening: the next category lists and its food loads.
+TEST_F(FoodsTest, AFailedSearchLeavesTheViewWorking)
+{
+    frmFoods f;
+    RawSql(LibraryConn, "alter table food_groups rename to food_groups_gone");
+    f.txtSearch->setText("Test Oats");
+    f.cmdSearch->click();
+    ASSERT_EQ(Ui().Messages().size(), 1);
+    EXPECT_EQ(Ui().LastMessage().title, "Error");
+    RawSql(LibraryConn, "alter table food_groups_gone rename to food_groups");
+    Ui().ClearMessages();
+
+    SelectGroup(f, " My Favorites");
+    ASSERT_TRUE(Line(f, "Test Oats"));
+    SelectLine(f, "Test Oats");
+    EXPECT_EQ(f.txtFood->text(), "Test Oats");
+    EXPECT_TRUE(Ui().MessageTexts().isEmpty());
+}
+
+// The list shows a food's name (the column that stretches, the whole name as its tooltip) and
+// its group; the view fits a 1280x720 screen.
+TEST_F(FoodsTest, ListShowsNamesAndGroups)
+{
+    LibraryConn.Execute("insert into foods (Group_ID, Name, amount, Measure, calories) values (1, "
+                        "'Test Cereals ready-to-eat, whole grain oats, honey and almond clusters', 1, 'cup', 210)");
+    frmFoods f;
+    EXPECT_LE(f.width(), 1280);
+    EXPECT_LE(f.height(), 680);
+    EXPECT_LE(f.minimumSizeHint().height(), 600);
+    f.show();
+    QCoreApplication::processEvents();
+    Search(f, "Test");
+    QTreeWidgetItem* cereal = Line(f, "Test Cereals ready-to-eat, whole grain oats, honey and almond clusters");
+    ASSERT_TRUE(cereal);
+    EXPECT_EQ(cereal->toolTip(frmFoods::colFood), cereal->text(frmFoods::colFood));
+    EXPECT_EQ(f.lstFoods->header()->sectionResizeMode(frmFoods::colFood), QHeaderView::Stretch);
+    const QFontMetrics fm(f.lstFoods->font());
+    EXPECT_GE(f.lstFoods->columnWidth(frmFoods::colGroup), fm.horizontalAdvance("My Favorites"));
+    EXPECT_GE(f.lstFoods->columnWidth(frmFoods::colFood), 200);
+    EXPECT_GT(f.lstFoods->columnWidth(frmFoods::colFood), f.lstFoods->columnWidth(frmFoods::colGroup));
 }
