@@ -722,10 +722,11 @@ void frmWeighIn::Graph()
     else
         SqlText = QStringLiteral("select date,") + column + QStringLiteral(" ") + range;
 
-    QStringList labels;
+    // Points at their days, so that weigh-ins a week apart stand further apart than two days.
+    QVector<QDateTime> times;
     QVector<double> values;
     ForEachRow(UserRS, SqlText, [&](Recordset& rs) {
-        labels << regional::ShortDate(DateOf(rs.Field(0)));
+        times << QDateTime(DateOf(rs.Field(0)), QTime(0, 0));
         values << Val(rs.Field(1));
     });
     // Qt Charts 6.4 keeps drawing an axis that had no series once it is removed, unless it
@@ -740,7 +741,7 @@ void frmWeighIn::Graph()
     hideAxes();
     Chart1->SetSeriesNames({item});
     hideAxes();
-    Chart1->SetData(labels, {values});
+    Chart1->SetTimedData(times, {values});
 }
 
 void frmWeighIn::SetTargetCalories()

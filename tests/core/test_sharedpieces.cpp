@@ -123,7 +123,7 @@ TEST_F(SharedPiecesTest, WritesThatBelongTogetherCommitTogetherOrNotAtAll)
                      t.Commit();
                  }),
                  StoreError);
-    EXPECT_EQ(CountUser("select * from pieces where id = 1 and name = 'Alpha'"), 1);
+    EXPECT_EQ(CountUser("pieces where id = 1 and name = 'Alpha'"), 1);
 
     {
         StoreTransaction t(UserConn);
@@ -136,8 +136,8 @@ TEST_F(SharedPiecesTest, WritesThatBelongTogetherCommitTogetherOrNotAtAll)
         }
         t.Commit();
     }
-    EXPECT_EQ(CountUser("select * from pieces where name = 'Gamma'"), 1);
-    EXPECT_EQ(CountUser("select * from pieces where id = 2"), 1);
+    EXPECT_EQ(CountUser("pieces where name = 'Gamma'"), 1);
+    EXPECT_EQ(CountUser("pieces where id = 2"), 1);
     // Nothing is left open: the next statement commits on its own.
     UserConn.Execute("insert into pieces (id, name) values (4, 'Delta')");
     EXPECT_THROW(UserConn.CommitTrans(), StoreError);
