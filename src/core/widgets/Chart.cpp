@@ -603,9 +603,19 @@ void Chart::rebuild()
             from = from.addSecs(-12 * 3600);
             to = to.addSecs(12 * 3600);
         }
+        int ticks = std::clamp(width / 90, 2, 12);
+        if (from.time() == QTime(0, 0) && to.time() == QTime(0, 0) && from < to) {
+            // Days: the marks fall on whole days, a whole number of days apart, so that each
+            // label names the day under it; the axis ends on the mark after the last point.
+            const qint64 days = from.daysTo(to);
+            const qint64 step = (days + ticks - 2) / (ticks - 1);
+            const qint64 marks = (days + step - 1) / step;
+            to = from.addDays(step * marks);
+            ticks = int(marks) + 1;
+        }
         ax->setRange(from, to);
         ax->setFormat(regional::Locale().dateFormat(QLocale::ShortFormat));
-        ax->setTickCount(std::clamp(width / 90, 2, 12));
+        ax->setTickCount(ticks);
         axX = ax;
     } else {
         // The axis wants distinct categories: a day that repeats (two sessions) gets invisible

@@ -226,6 +226,26 @@ TEST(ChartAxes, DatesSpacedByTimeValuesFittedToTheData)
     auto at = [&](int i) { return chart->mapToPosition(QPointF(days[i].toMSecsSinceEpoch(), 163)).x(); };
     EXPECT_NEAR((at(1) - at(0)) / (at(2) - at(1)), 5.0 / 16.0, 0.01);
 
+    // Days without a time: every mark stands on a whole day, so its label names the day under
+    // it (marks 11/7 of a day apart put "13 Nov" under the weigh-in of the 14th).
+    Chart byDay;
+    byDay.resize(800, 500);
+    byDay.SetStyle(Chart::Line);
+    const QVector<QDateTime> midnights{QDateTime(first, QTime(0, 0)), QDateTime(first.addDays(5), QTime(0, 0)),
+                                       QDateTime(first.addDays(10), QTime(0, 0)),
+                                       QDateTime(first.addDays(11), QTime(0, 0))};
+    byDay.SetTimedData(midnights, {{166, 163.5, 162, 161}});
+    byDay.show();
+    QCoreApplication::processEvents();
+    auto* dayAxis = qobject_cast<QDateTimeAxis*>(byDay.GetChart()->axes(Qt::Horizontal).value(0));
+    ASSERT_TRUE(dayAxis);
+    EXPECT_EQ(dayAxis->min(), midnights[0]);
+    EXPECT_GE(dayAxis->max(), midnights[3]);
+    const qint64 span = dayAxis->min().daysTo(dayAxis->max());
+    ASSERT_GT(dayAxis->tickCount(), 1);
+    EXPECT_EQ(span % (dayAxis->tickCount() - 1), 0) << span << " days, " << dayAxis->tickCount() << " marks";
+    EXPECT_EQ(dayAxis->max().time(), QTime(0, 0));
+
     // A 6 lb change on 160 lb fills the plot: the range is the data and a tenth of it each
     // side, on round numbers, not from 0.
     auto* values = qobject_cast<QValueAxis*>(chart->axes(Qt::Vertical).value(0));
