@@ -195,7 +195,9 @@ void frmFoods::buildUi()
     split->addWidget(right);
     split->setStretchFactor(0, 1);
     split->setStretchFactor(1, 1);
-    split->setSizes({520, 600});
+    // The list takes half: food names in the source run long, and the nutrients beside the
+    // pie need the other half.
+    split->setSizes({570, 550});
 
     // Commands.
     auto* buttons = new QHBoxLayout;
@@ -516,7 +518,7 @@ void frmFoods::SearchFoods()
 void frmFoods::fitGroupColumn()
 {
     // Wide enough for the groups shown, within reason; a cut group has its tooltip.
-    constexpr int widest = 220;
+    constexpr int widest = 170;
     const QFontMetrics fm(lstFoods->font());
     int width = fm.horizontalAdvance(lstFoods->headerItem()->text(colGroup)) + 24;
     for (int i = 0; i < lstFoods->topLevelItemCount() && width < widest; ++i)
