@@ -22,12 +22,6 @@ namespace {
 
 const QString NameTaken = QStringLiteral("This user already exists.  Please try another name or remove existing athlete.");
 
-// The engine's own SQL, for changing a table under a screen.
-void RawSql(Connection& conn, const char* sql)
-{
-    ASSERT_NE(storetest::Raw(conn, sql), QStringLiteral("<error>")) << sql;
-}
-
 QString UserText(const QString& sql)
 {
     Recordset rs(&UserConn);

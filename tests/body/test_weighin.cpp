@@ -10,7 +10,6 @@
 #include "core/widgets/Chart.h"
 
 #include <QComboBox>
-#include <sqlite3.h>
 #include <QDateEdit>
 #include <QGroupBox>
 #include <QLabel>
@@ -19,23 +18,6 @@
 #include <QPushButton>
 
 using namespace weighin;
-
-namespace {
-// Runs SQLite's own SQL on a store's file, for what the system's dialect has no words for: a test
-// renames a table or a column to make a statement fail, then puts it back.
-void RawSql(Connection& conn, const char* sql)
-{
-    sqlite3* db = nullptr;
-    ASSERT_EQ(sqlite3_open(conn.Path().toUtf8().constData(), &db), SQLITE_OK);
-    sqlite3_busy_timeout(db, 2000);
-    char* error = nullptr;
-    const int rc = sqlite3_exec(db, sql, nullptr, nullptr, &error);
-    const std::string text = error ? error : "";
-    sqlite3_free(error);
-    sqlite3_close(db);
-    ASSERT_EQ(rc, SQLITE_OK) << text;
-}
-}  // namespace
 
 TEST(WeighInCalc, BmiInEitherUnitAndNothingWithoutWeightOrHeight)
 {

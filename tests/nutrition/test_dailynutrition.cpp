@@ -16,7 +16,6 @@
 #include <QApplication>
 #include <QButtonGroup>
 #include <QComboBox>
-#include <sqlite3.h>
 #include <QDateEdit>
 #include <QLineEdit>
 #include <QProgressBar>
@@ -27,22 +26,6 @@
 
 using namespace daily;
 
-namespace {
-// Runs SQLite's own SQL on a store's file, for what the system's dialect has no words for: a test
-// renames a table or a column to make a statement fail, then puts it back.
-void RawSql(Connection& conn, const char* sql)
-{
-    sqlite3* db = nullptr;
-    ASSERT_EQ(sqlite3_open(conn.Path().toUtf8().constData(), &db), SQLITE_OK);
-    sqlite3_busy_timeout(db, 2000);
-    char* error = nullptr;
-    const int rc = sqlite3_exec(db, sql, nullptr, nullptr, &error);
-    const std::string text = error ? error : "";
-    sqlite3_free(error);
-    sqlite3_close(db);
-    ASSERT_EQ(rc, SQLITE_OK) << text;
-}
-}  // namespace
 
 TEST(DailyArithmetic, CalorieMeterBands)
 {
