@@ -11,13 +11,6 @@
 #include <cstring>
 
 namespace fieldvalue {
-namespace {
-
-bool StartsWith(const char* s, size_t n, const char* word)
-{
-    size_t w = std::strlen(word);
-    return n == w && strncasecmp(s, word, w) == 0;
-}
 
 QVariant DateValue(const QDate& d, const QTime& t, bool hasTime)
 {
@@ -29,6 +22,14 @@ QVariant FromSerial(double serial)
 {
     QDateTime dt = storedate::FromSerial(serial);
     return DateValue(dt.date(), dt.time(), true);
+}
+
+namespace {
+
+bool StartsWith(const char* s, size_t n, const char* word)
+{
+    size_t w = std::strlen(word);
+    return n == w && strncasecmp(s, word, w) == 0;
 }
 
 qlonglong RoundToLong(double v)

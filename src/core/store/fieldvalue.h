@@ -3,6 +3,9 @@
 // given to a field. Reading a stored value and binding a field belong to the engine (engine.h).
 #include <QVariant>
 
+class QDate;
+class QTime;
+
 namespace fieldvalue {
 
 enum class Kind : unsigned char {
@@ -22,5 +25,10 @@ Kind KindOf(const char* declaredType);
 // value, a date in any form becomes a date, true/false a Yes/No. Throws
 // StoreError(TypeMismatch) for text that a date cannot take.
 QVariant Convert(const QVariant& value, Kind kind);
+
+// A date read from the store as a field: the day alone (QDate) when there is no time or it is
+// midnight, else a QDateTime. A number read as a date counts days from the base day.
+QVariant DateValue(const QDate& d, const QTime& t, bool hasTime);
+QVariant FromSerial(double serial);
 
 }  // namespace fieldvalue

@@ -1,5 +1,6 @@
 #include "core/store/sqliteengine.h"
 
+#include "core/store/fieldvalue.h"
 #include "core/store/sqlfunctions.h"
 #include "core/store/storedate.h"
 #include "core/store/storeerror.h"
@@ -128,17 +129,8 @@ void RebuildFoldedIndexes(sqlite3* db)
 // ---------------------------------------------------------------------------------------------
 // Fields: a column of the current row as a field of its kind, and a field bound to a parameter.
 
-QVariant DateValue(const QDate& d, const QTime& t, bool hasTime)
-{
-    if (!hasTime || t == QTime(0, 0)) return QVariant(d);
-    return QVariant(QDateTime(d, t));
-}
-
-QVariant FromSerial(double serial)
-{
-    QDateTime dt = storedate::FromSerial(serial);
-    return DateValue(dt.date(), dt.time(), true);
-}
+using fieldvalue::DateValue;
+using fieldvalue::FromSerial;
 
 QVariant TextValue(sqlite3_stmt* st, int i)
 {
