@@ -239,6 +239,8 @@ PORTION_MAX_KCAL = 600
 RICH_KCAL = 400         # kcal per 100 g from which a food is eaten by the spoonful or ounce
 RICH_MAX_G = 60
 FATS_AND_OILS = "0400"  # eaten by the spoonful whatever their energy
+DAIRY = "0100"          # cheeses: eaten by the slice or ounce from CHEESE_KCAL a 100 g
+CHEESE_KCAL = 300
 BIG_PORTION_G = 700     # the most a single item may weigh when a food has nothing lighter
 
 
@@ -519,7 +521,7 @@ def main():
             kcal100 = float(row[ABBREV_KCAL - 1])
         except ValueError:
             kcal100 = 0.0
-        rich = code == FATS_AND_OILS or kcal100 > RICH_KCAL
+        rich = code == FATS_AND_OILS or kcal100 > RICH_KCAL or (code == DAIRY and kcal100 > CHEESE_KCAL)
         w = choose_weight(weights.get(ndb), kcal100, rich, units, rows_of_units)
         if w:
             amount, measure_desc, grams = w[0], w[1], w[2]
