@@ -1,4 +1,5 @@
 #include "core/frmMain.h"
+#include <algorithm>
 #include "core/widgets/Theme.h"
 #include "core/frmWebView.h"
 #include "core/ini.h"
@@ -482,6 +483,31 @@ void frmMain::OpenPlanner()
     if (!m_planner) return;
     setCentralWidget(m_planner);
     m_planner->show();
+    // The planner may need more room than a small window had: once the window has grown to
+    // it, the window is moved back inside the screen where it grew past the edge.
+    m_fitAfterPlanner = true;
+    QTimer::singleShot(0, this, [this] { FitOnScreen(); });
+    QTimer::singleShot(1000, this, [this] { m_fitAfterPlanner = false; });
+}
+
+void frmMain::resizeEvent(QResizeEvent* event)
+{
+    QMainWindow::resizeEvent(event);
+    if (m_fitAfterPlanner) QTimer::singleShot(0, this, [this] { FitOnScreen(); });
+}
+
+void frmMain::FitOnScreen()
+{
+    if (!isVisible() || (windowState() & (Qt::WindowMaximized | Qt::WindowMinimized | Qt::WindowFullScreen)))
+        return;
+    QScreen* s = screen();
+    if (!s) return;
+    const QRect area = s->availableGeometry();
+    const QRect frame = frameGeometry();
+    if (area.contains(frame)) return;
+    const int x = std::max(area.left(), std::min(frame.left(), area.right() + 1 - frame.width()));
+    const int y = std::max(area.top(), std::min(frame.top(), area.bottom() + 1 - frame.height()));
+    move(x, y);
 }
 
 void frmMain::ClosePlanner()

@@ -71,9 +71,13 @@ public slots:
 
 protected:
     void closeEvent(QCloseEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
     void showEvent(QShowEvent* event) override;
 
 private:
+    // Moves a normal window that reaches past its screen's edge back inside it.
+    void FitOnScreen();
+    bool m_fitAfterPlanner = false;
     void Form_Load();
     void Form_Unload();
     void BuildMenus();
