@@ -7,6 +7,7 @@
 
 #include "core/shared.h"
 #include "core/store/connection.h"
+#include "newstore.h"
 #include "core/store/recordset.h"
 #include "core/store/testhooks.h"
 #include "core/store/textfold.h"
@@ -60,9 +61,7 @@ protected:
     void SetUp() override
     {
         ASSERT_TRUE(m_dir.isValid());
-        m_path = m_dir.filePath(QStringLiteral("store.mdb"));
-        Connection::CreateStore(m_path, QString::fromUtf8(kSchema), QString::fromUtf8(kSeed), StorePassword);
-        conn.Open(ConnectionString(m_path));
+        m_path = OpenNewStore(m_dir, kSchema, kSeed, conn);
     }
 
     QStringList Column(const QString& sql)
