@@ -9,6 +9,7 @@
 #include "core/shared.h"
 #include "core/ui.h"
 #include "core/widgets/IDayView.h"
+#include "core/widgets/DayView.h"
 #include "core/widgets/MonthCalendar.h"
 
 #include <QHash>
@@ -84,6 +85,34 @@ void SaveCalendarEntry(const QString& name, const QString& workoutType, const QD
     }
 
     LoadCalendarIcons(date, 1);
+}
+
+bool ScheduleEntry(const QString& name, const QString& workoutType, const QDate& date, const QTime& start,
+                   const QTime& end, int image)
+{
+    const QDateTime s(date, start);
+    const QDateTime e(date, end);
+    DayView* view = PlannerDayView();
+    int id = 0;
+    if (view) {
+        id = view->AddEntry(s, e, name, QString(), theme::Color());
+    } else {
+        DayViewModel day;
+        day.SetKeyFloor([](const QDate& d) {
+            int k = 0;
+            Recordset rs(&UserConn);
+            FirstRow(rs, QStringLiteral("select max(key) from calendar where User_ID='") + CurrentUserID
+                             + QStringLiteral("' and date=#") + SqlDate(d) + QStringLiteral("#"),
+                     [&k](Recordset& r) { k = int(Val(r.Field(0))); });
+            return k;
+        });
+        id = day.Add(s, e, name, QString(), theme::Color());
+    }
+    if (!id) return false;
+    SelectedKey = QString::number(id);
+    if (view) view->SetHiddenText(id, SelectedKey + QLatin1Char('\t') + workoutType);
+    SaveCalendarEntry(name, workoutType, date, EntryTimeText(s), EntryTimeText(e), image);
+    return true;
 }
 
 long DayCalories()

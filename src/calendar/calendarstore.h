@@ -16,6 +16,14 @@ class MonthCalendar;
 void SaveCalendarEntry(const QString& name, const QString& workoutType, const QDate& date, const QString& startTime,
                        const QString& endTime, int image);
 
+// Schedules a new entry of a log on `date`: the planner's day view (or, with no planner open, a
+// day of the store's own keys) places it from start to end; its key becomes SelectedKey, its
+// hidden text the key, a tab and the type, and its calendar row is written. False, with
+// nothing written, when the view refuses the times (the end not after the start, or outside
+// the day).
+bool ScheduleEntry(const QString& name, const QString& workoutType, const QDate& date, const QTime& start,
+                   const QTime& end, int image);
+
 // The sum of Cals over the entries of the selected day.
 long DayCalories();
 

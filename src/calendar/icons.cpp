@@ -21,6 +21,8 @@ QColor NumberColour(int n)
 }
 }  // namespace
 
+int ExerciseIconCount() { return 16; }
+
 QPixmap ExerciseIcon(int image)
 {
     // Kept for the life of the process (never freed: pixmaps must not outlive the application).

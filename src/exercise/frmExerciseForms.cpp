@@ -1,0 +1,6 @@
+#include "exercise/frmExerciseForms.h"
+
+frmExerciseForms::frmExerciseForms(QWidget* parent) : QDialog(parent)
+{
+    setWindowTitle(QStringLiteral("Exercise/Sports Library"));
+}
