@@ -54,6 +54,28 @@ TEST_F(CalendarTest, SaveCalendarEntryReplacesTheRowOfItsKeyAndType)
     EXPECT_EQ(CountUser(QStringLiteral("calendar")), 3);
 }
 
+// A log scheduling its item with no planner open: each new entry takes the day's next key
+// (above keys other entries of the day hold), gets its calendar row, and a span that ends
+// before it starts is refused with nothing written.
+TEST_F(CalendarTest, ScheduleEntryTakesTheDaysNextKeyOrRefusesTheTimes)
+{
+    AddEntry(kDay, 7, QStringLiteral("Swim"), QStringLiteral("Exercise"), QStringLiteral("7:00 AM"),
+             QStringLiteral("8:00 AM"));
+    ASSERT_TRUE(ScheduleEntry(QStringLiteral("Run"), QStringLiteral("Exercise"), kDay, QTime(9, 0), QTime(9, 30), 1));
+    EXPECT_EQ(SelectedKey, QStringLiteral("8"));
+    ASSERT_TRUE(ScheduleEntry(QStringLiteral("Run"), QStringLiteral("Exercise"), kDay, QTime(10, 0), QTime(10, 30), 1));
+    EXPECT_EQ(SelectedKey, QStringLiteral("9"));
+    ASSERT_TRUE(ScheduleEntry(QStringLiteral("Run"), QStringLiteral("Exercise"), kDay.addDays(1), QTime(9, 0),
+                              QTime(9, 30), 1));
+    EXPECT_EQ(SelectedKey, QStringLiteral("1"));
+    EXPECT_EQ(CountUser(QStringLiteral("calendar where name='Run' and workouttype='Exercise'")), 3);
+    EXPECT_EQ(CountUser(QStringLiteral("calendar where key=9 and starttime like '%10:00:00 AM'")), 1);
+
+    EXPECT_FALSE(ScheduleEntry(QStringLiteral("Run"), QStringLiteral("Exercise"), kDay, QTime(11, 0), QTime(10, 0), 1));
+    EXPECT_FALSE(ScheduleEntry(QStringLiteral("Run"), QStringLiteral("Exercise"), kDay, QTime(11, 0), QTime(11, 0), 1));
+    EXPECT_EQ(CountUser(QStringLiteral("calendar")), 4);
+}
+
 // Which picture each date gets: none for an entry without icon, an appointment's icon, a
 // strip of icons in row order, and a day with more icons than its cell shows keeps them all.
 TEST_F(CalendarTest, IconsOfTheMonthView)
