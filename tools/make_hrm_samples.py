@@ -75,6 +75,7 @@ class Fit:
         self.defs[local] = (order, fields, sum(d[1] for d in dev))
 
     def message(self, local, values, compressed=None, dev_bytes=None):
+        assert compressed is None or local < 4
         order, fields, dev_size = self.defs[local]
         if compressed is None:
             self.data += bytes([local])
@@ -123,7 +124,7 @@ def fit_edge_bike():
     f = Fit()
     file_id(f, 1, 2713)
     f.define(2, 21, [(253, UINT32), (0, ENUM), (1, ENUM)])
-    f.define(3, 19, [(253, UINT32), (2, UINT32), (7, UINT32)])   # lap: start time, elapsed
+    f.define(5, 19, [(253, UINT32), (2, UINT32), (7, UINT32)])   # lap: start time, elapsed
     f.define(1, 20, [(253, UINT32), (0, SINT32), (1, SINT32), (3, UINT8), (7, UINT16)], big=True,
              dev=[(0, 2, 0)])
     t = T0
@@ -137,14 +138,15 @@ def fit_edge_bike():
     for _ in range(900):
         f.message(1, [t, 500000000, 100000000, 155, 250], dev_bytes=b'\x03\x04')
         t += 1
-    f.message(3, [t - 1, T0, 2108000])
+    f.message(5, [t - 1, T0, 2108000])
     t += 7200
-    # compressed headers need a full timestamp first; the lap's own record gives it
-    f.define(4, 20, [(3, UINT8), (7, UINT16)])
+    # compressed headers (local types 0 to 3 only) need a full timestamp first: the first
+    # record after the gap gives it
+    f.define(3, 20, [(3, UINT8), (7, UINT16)])
     f.message(1, [t, 500000000, 100000000, 175, 300], dev_bytes=b'\x00\x00')
     for i in range(1, 300):
-        f.message(4, [175, 300], compressed=(t + i) & 0x1F)
-    f.message(3, [t + 299, t, 300000])
+        f.message(3, [175, 300], compressed=(t + i) & 0x1F)
+    f.message(5, [t + 299, t, 300000])
     return f.bytes()
 
 
