@@ -84,7 +84,7 @@ frmExerciseForms::frmExerciseForms(QWidget* parent) : QDialog(parent)
 void frmExerciseForms::buildUi()
 {
     // Within a 1280x720 screen, frame included.
-    resize(1000, 640);
+    resize(1060, 640);
 
     // The library: category and items.
     optTraining = form::Named(new QRadioButton(QStringLiteral("&Training")), QStringLiteral("optTraining"),
@@ -99,7 +99,7 @@ void frmExerciseForms::buildUi()
     lstEndurance = form::Named(new QListWidget, QStringLiteral("lstEndurance"),
                                QStringLiteral("Select an exercise or sport to see its form"));
     lstEndurance->setSelectionMode(QAbstractItemView::SingleSelection);
-    lstEndurance->setMinimumWidth(220);
+    lstEndurance->setMinimumWidth(200);
     auto* left = new QVBoxLayout;
     left->addWidget(show);
     left->addWidget(form::Caption(QStringLiteral("Li&brary:"), lstEndurance));
@@ -245,7 +245,7 @@ void frmExerciseForms::FormatGrid()
     SS1->SetRowHeadersVisible(true);
     SS1->SetColumnWidthChars(0, 4);
     SS1->SetColumnWidthChars(gcName, 25);   // 2500 twips
-    SS1->SetColumnWidthChars(gcInfo, 22);
+    SS1->SetColumnWidthChars(gcInfo, 16);
     SS1->horizontalHeader()->setStretchLastSection(true);
 }
 
@@ -546,6 +546,9 @@ bool frmExerciseForms::eventFilter(QObject* watched, QEvent* event)
         QStylePainter painter(corner);
         QStyleOptionHeader opt;
         opt.initFrom(corner);
+        // A caption, not a command: not drawn greyed.
+        opt.state |= QStyle::State_Enabled;
+        opt.palette.setCurrentColorGroup(QPalette::Active);
         opt.rect = corner->rect();
         opt.position = QStyleOptionHeader::OnlyOneSection;
         opt.textAlignment = Qt::AlignCenter;
