@@ -1,6 +1,7 @@
 #include "exercise/frmExerciseForms.h"
 
 #include <QAbstractButton>
+#include <QAbstractItemDelegate>
 #include <QComboBox>
 #include <QEvent>
 #include <QGridLayout>
@@ -183,6 +184,15 @@ void frmExerciseForms::buildUi()
     connect(optTraining, &QRadioButton::toggled, this, [this] { Guard([&] { on_opt_changed(); }); });
     connect(lstEndurance, &QListWidget::itemSelectionChanged, this, [this] { Guard([&] { on_lstEndurance_changed(); }); });
     connect(SS1, &Grid::CellEdited, this, [this](int r, int c) { Guard([&] { on_SS1_edited(r, c); }); });
+    // A formula opened with F2 and left with Escape is a formula again.
+    connect(SS1->itemDelegate(), &QAbstractItemDelegate::closeEditor, this, [this] {
+        const int row = SS1->ActiveRow();
+        if (SS1->ActiveCol() == gcInfo && SS1->GetCellType(row, gcInfo) == Grid::TypeText &&
+            SS1->Text(row, gcInfo).trimmed().startsWith(QLatin1Char('='))) {
+            QScopedValueRollback<bool> loading(m_loading, true);
+            SS1->SetFormula(row, gcInfo, SS1->Text(row, gcInfo));
+        }
+    });
     connect(cmdAdd, &QPushButton::clicked, this, [this] { Guard([&] { on_cmdAdd_clicked(); }); });
     connect(cmdDeleteField, &QPushButton::clicked, this, [this] { Guard([&] { on_cmdDeleteField_clicked(); }); });
     connect(cmdUp, &QPushButton::clicked, this, [this] { Guard([&] { on_cmdUp_clicked(); }); });

@@ -293,6 +293,25 @@ TEST_F(FormsTest, SaveReloadRenameAndDeleteAnItemWithAQuote)
     EXPECT_EQ(f.txtExerciseName->text(), "Yoga");
 }
 
+TEST_F(FormsTest, AFailedSaveKeepsTheItemAsItWas)
+{
+    AddItem("Training", "Rowing");
+    LibraryConn.Execute("insert into endurance_templates (Category, Name, field_name, Value, worder) values ('Training', 'Rowing', 'Strokes', '30', 1)");
+    frmExerciseForms f;
+    ASSERT_TRUE(Select(f, "Rowing"));
+    f.txtComments->setPlainText("On the river");
+    RawSql(LibraryConn, "alter table endurance_templates rename to endurance_templates_gone");
+    f.cmdSave->click();
+    RawSql(LibraryConn, "alter table endurance_templates_gone rename to endurance_templates");
+    EXPECT_EQ(Ui().LastMessage().title, "Error");
+    EXPECT_EQ(CountLibrary("endurance_exercises where exercise='Rowing' and [Desc]='d'"), 1);
+    EXPECT_EQ(CountLibrary("endurance_templates where name='Rowing' and field_name='Strokes'"), 1);
+    EXPECT_FALSE(LibraryRS.IsOpen());
+    f.cmdSave->click();   // and the screen goes on working
+    EXPECT_EQ(Ui().LastMessage().text, "Exercise Information Saved.");
+    EXPECT_EQ(CountLibrary("endurance_exercises where exercise='Rowing' and [Desc]='On the river'"), 1);
+}
+
 TEST_F(FormsTest, IntervalsIsReservedInEitherCategoryAndOnlyInThatSpelling)
 {
     AddItem("Training", "Intervals");
@@ -395,6 +414,15 @@ TEST_F(FormsTest, ValueCellsTakeTheirTypeFromWhatIsTyped)
     QTest::keyClick(editor, Qt::Key_Return);
     QCoreApplication::processEvents();   // the editor commits once back in the event loop
     EXPECT_EQ(f.SS1->Formula(2, 2), "2*3+1");
+    EXPECT_EQ(f.SS1->Text(2, 2), "7");
+    // Opened and left with Escape: still the formula.
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QTest::keyClick(f.SS1, Qt::Key_F2);
+    editor = f.SS1->viewport()->findChild<QLineEdit*>();
+    ASSERT_TRUE(editor);
+    QTest::keyClick(editor, Qt::Key_Escape);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(f.SS1->GetCellType(2, 2), Grid::TypeFormula);
     EXPECT_EQ(f.SS1->Text(2, 2), "7");
 
     const QImage shot = f.grab().toImage();
