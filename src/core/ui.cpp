@@ -108,11 +108,35 @@ Hooks& CurrentHooks()
     return hooks;
 }
 
+// A dialog opens centred over its parent window and wholly on the parent's screen: a window
+// manager would keep it there, and without one Qt leaves a dialog wider than the space beside
+// a window near the screen's edge partly off the screen.
+void PlaceInsideScreen(QDialog* d)
+{
+    QWidget* parent = d->parentWidget() ? d->parentWidget()->window() : MainWindow();
+    QScreen* screen = parent ? parent->screen() : QGuiApplication::primaryScreen();
+    if (!screen) return;
+    const QRect avail = screen->availableGeometry();
+    d->ensurePolished();
+    QSize size = d->testAttribute(Qt::WA_Resized) ? d->size() : d->sizeHint().expandedTo(d->minimumSize());
+    size = size.boundedTo(avail.size());
+    if (size != d->size()) d->resize(size);
+    const QPoint centre = parent && parent->isVisible() ? parent->frameGeometry().center() : avail.center();
+    QRect r(QPoint(0, 0), size);
+    r.moveCenter(centre);
+    r.moveLeft(qBound(avail.left(), r.left(), avail.right() - r.width() + 1));
+    r.moveTop(qBound(avail.top(), r.top(), avail.bottom() - r.height() + 1));
+    d->move(r.topLeft());
+}
+
 void InstallQtHooks()
 {
     Hooks& h = CurrentHooks();
     h.msgBox = QtMsgBox;
-    h.showModal = [](QDialog* d) { return d->exec(); };
+    h.showModal = [](QDialog* d) {
+        PlaceInsideScreen(d);
+        return d->exec();
+    };
     h.fileDialog = QtFileDialog;
     h.printDialog = [](QPrinter* p) {
         QPrintDialog dlg(p, MainWindow());
