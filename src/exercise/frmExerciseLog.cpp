@@ -211,6 +211,13 @@ frmExerciseLog::frmExerciseLog(QWidget* parent) : QDialog(parent)
         FirstRow(UserRS, SqlText, [this](Recordset& rs) {
             txtRHR->setText(NumberOrBlank(rs.Field(QStringLiteral("RESTING_HR"))));
             txtMHR->setText(NumberOrBlank(rs.Field(QStringLiteral("MAXIMUM_HR"))));
+            // The athlete's bounds beside each zone.
+            for (int i = 0; i < 5 && m_zoneCaptions[i]; ++i) {
+                const QString lower = Str(rs.Field(QStringLiteral("Z%1Lower").arg(i + 1)));
+                const QString upper = Str(rs.Field(QStringLiteral("Z%1Upper").arg(i + 1)));
+                if (!lower.isEmpty() && !upper.isEmpty())
+                    m_zoneCaptions[i]->setText(QStringLiteral("Zone &%1 (%2-%3)").arg(i + 1).arg(lower, upper));
+            }
         });
     });
     if (m_scheduling) {
@@ -283,7 +290,7 @@ QWidget* frmExerciseLog::buildDetailsTab()
     cboBaseUnit = Combo(QStringLiteral("cboBaseUnit"), fraPerf);
     cmdCalc = form::Button(QStringLiteral("cmdCalc"), QStringLiteral("Calc"), QStringLiteral("Calculate the speed"));
     cboIntensity = Combo(QStringLiteral("cboIntensity"), fraPerf);
-    cboIntensity->setMinimumWidth(70);
+    cboIntensity->setMinimumWidth(90);
     txtCals = NumberEdit(QStringLiteral("txtCals"), fraPerf);
     cmdCalcCals = form::Button(QStringLiteral("cmdCalcCals"), QStringLiteral("Calc"),
                                QStringLiteral("Calculate the calories burned"));
@@ -349,7 +356,6 @@ QWidget* frmExerciseLog::buildDetailsTab()
     form::AddRow(sg, r++, QStringLiteral("&Warmup"), txtWarmup);
     form::AddRow(sg, r++, QStringLiteral("Re&covery"), txtRecovery);
     sg->setColumnStretch(1, 1);
-    sg->setRowStretch(r, 1);
 
     // Laps.
     auto* fraLaps = new QGroupBox(QStringLiteral("Laps"), page);
@@ -367,7 +373,7 @@ QWidget* frmExerciseLog::buildDetailsTab()
 
     txtComments = form::Named(new QPlainTextEdit(page), QStringLiteral("txtComments"));
     txtComments->setTabChangesFocus(true);
-    txtComments->setMaximumHeight(80);
+    txtComments->setMinimumHeight(60);
 
     auto* grid = new QGridLayout(page);
     grid->addWidget(fraPerf, 0, 0);
@@ -378,7 +384,7 @@ QWidget* frmExerciseLog::buildDetailsTab()
     grid->setColumnStretch(0, 3);
     grid->setColumnStretch(1, 3);
     grid->setColumnStretch(2, 2);
-    grid->setRowStretch(0, 1);
+    grid->setRowStretch(2, 1);   // the notes take what the fields leave
 
     for (auto* e : {txtDistance, txtPlannedDistance, txtDuration, txtPlannedDuration, txtSpeed, txtPlannedSpeed, txtCals,
                     txtEvent, txtWarmup, txtRecovery})
@@ -441,7 +447,8 @@ QWidget* frmExerciseLog::buildHeartTab()
         txtZone[i]->setMaximumWidth(90);
         txtZone[i]->setMaxLength(TextLength);
         const QString caption = i < 5 ? QStringLiteral("Zone &%1").arg(i + 1) : QStringLiteral("Time to return to RH&R");
-        form::AddRow(z, i, caption, txtZone[i]);
+        QLabel* l = form::AddRow(z, i, caption, txtZone[i]);
+        if (i < 5) m_zoneCaptions[i] = l;
         connect(txtZone[i], &QLineEdit::textEdited, this, [this] { changed(); });
     }
     z->setRowStretch(6, 1);

@@ -172,4 +172,5 @@ private:
     QString m_name;
     QString m_key;
     int m_image = 0;
+    QLabel* m_zoneCaptions[5] = {};
 };

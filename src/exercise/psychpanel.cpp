@@ -14,7 +14,6 @@
 #include <QLineEdit>
 #include <QRadioButton>
 #include <QScopedValueRollback>
-#include <QScrollArea>
 #include <QVBoxLayout>
 
 namespace {
@@ -42,7 +41,7 @@ QLabel* Question(const QString& text, QWidget* buddy, QWidget* parent)
     auto* l = new QLabel(text, parent);
     l->setWordWrap(true);
     l->setBuddy(buddy);
-    l->setMinimumWidth(220);
+    l->setMinimumWidth(160);
     return l;
 }
 
@@ -51,7 +50,7 @@ QLabel* Question(const QString& text, QWidget* buddy, QWidget* parent)
 PsychPanel::PsychPanel(Wording wording, QWidget* parent) : QWidget(parent), m_wording(wording)
 {
     setObjectName(QStringLiteral("PsychPanel"));
-    auto* page = new QWidget;
+    auto* page = new QWidget(this);
     auto make = [](const QString& name, int maxLength) {
         return form::Edit(name, maxLength);
     };
@@ -68,6 +67,7 @@ PsychPanel::PsychPanel(Wording wording, QWidget* parent) : QWidget(parent), m_wo
         cboRating[i]->addItems(RatingItems());
         cboRating[i]->setCurrentIndex(-1);
         cboRating[i]->setMinimumWidth(110);
+        cboRating[i]->setMaximumWidth(150);
     }
     m_groups[0] = pair(optGoals, QStringLiteral("optGoals"));
     m_groups[1] = pair(optSleep, QStringLiteral("optSleep"));
@@ -151,14 +151,9 @@ PsychPanel::PsychPanel(Wording wording, QWidget* parent) : QWidget(parent), m_wo
     columns->addWidget(left, 1);
     columns->addWidget(right, 1);
 
-    auto* scroll = new QScrollArea(this);
-    scroll->setObjectName(QStringLiteral("scrPsych"));
-    scroll->setWidgetResizable(true);
-    scroll->setFrameShape(QFrame::NoFrame);
-    scroll->setWidget(page);
     auto* v = new QVBoxLayout(this);
     v->setContentsMargins(0, 0, 0, 0);
-    v->addWidget(scroll);
+    v->addWidget(page);
 
     for (auto* e : {txtGoals, txtDifferent, txtDoubt, txtControlLevel, txtVis, txtUnforseen, txtRating})
         connect(e, &QLineEdit::textChanged, this, &PsychPanel::changed);

@@ -183,6 +183,11 @@ TEST_F(ExerciseLogTest, SchedulingOnThreeSelectedDays)
     EXPECT_EQ(Str(UserValue("select Units from Daily_Templates where date=#2026-03-15# and worder=4")), "Road");
     EXPECT_TRUE(p.CalView->HasPicture(d3));
 
+    // It opens within 1280 x 720 and can be made smaller still.
+    EXPECT_LE(f.width(), 1280);
+    EXPECT_LE(f.height(), 720 - 40);
+    EXPECT_LT(f.minimumSizeHint().width(), 1100);
+    EXPECT_LT(f.minimumSizeHint().height(), 680);
     // A look at the screen.
     f.resize(1120, 680);
     f.grab().save("/tmp/orvantis_exerciselog_details.png");
