@@ -96,6 +96,9 @@ QComboBox* Combo(const QString& name, QWidget* parent, bool editable = false)
     c->setEditable(editable);
     if (editable)
         c->setInsertPolicy(QComboBox::NoInsert);
+    // Long remembered entries widen the list, not the window.
+    c->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    c->setMinimumContentsLength(editable ? 14 : 6);
     return c;
 }
 
@@ -294,6 +297,8 @@ QWidget* frmExerciseLog::buildDetailsTab()
     txtCals = NumberEdit(QStringLiteral("txtCals"), fraPerf);
     cmdCalcCals = form::Button(QStringLiteral("cmdCalcCals"), QStringLiteral("Calc"),
                                QStringLiteral("Calculate the calories burned"));
+    for (auto* b : {cmdCalc, cmdCalcCals})
+        b->setMaximumWidth(64);
     auto* planned = new QLabel(QStringLiteral("Planned"), fraPerf);
     auto* actual = new QLabel(QStringLiteral("Actual"), fraPerf);
     for (auto* l : {planned, actual})
@@ -369,7 +374,7 @@ QWidget* frmExerciseLog::buildDetailsTab()
     lapsRow->addStretch(1);
     lg->addLayout(lapsRow);
     lg->addWidget(SS3, 1);
-    fraLaps->setMinimumWidth(250);
+    fraLaps->setMinimumWidth(190);
 
     txtComments = form::Named(new QPlainTextEdit(page), QStringLiteral("txtComments"));
     txtComments->setTabChangesFocus(true);
