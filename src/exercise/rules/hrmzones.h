@@ -33,7 +33,7 @@ struct GraphPoints {
     QStringList labels;
     QVector<double> values;
 };
-constexpr int MaxGraphPoints = 400;
+constexpr int MaxGraphPoints = 200;
 GraphPoints GraphHRMPoints(const QStringList& readings, double interval, int maxPoints = MaxGraphPoints);
 
 }  // namespace hrm
