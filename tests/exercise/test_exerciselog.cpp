@@ -13,10 +13,12 @@
 #include "core/store/recordset.h"
 #include "core/widgets/Chart.h"
 #include "core/widgets/Grid.h"
+#include "core/widgets/DayView.h"
 #include "core/widgets/MonthCalendar.h"
 #include "exercise/frmExerciseLog.h"
 #include "exercise/intervalspanel.h"
 #include "exercise/psychpanel.h"
+#include "exercise/screens.h"
 
 #include <QComboBox>
 #include <QDateEdit>
@@ -193,6 +195,34 @@ TEST_F(ExerciseLogTest, SchedulingOnThreeSelectedDays)
     f.grab().save("/tmp/orvantis_exerciselog_details.png");
     f.TabPerformance->setCurrentIndex(1);
     f.grab().save("/tmp/orvantis_exerciselog_fields.png");
+}
+
+// The planner opens a saved entry by its name (quote doubled on the way) and key; the log
+// finds the session and the planner shows the calories it saved.
+TEST_F(ExerciseLogTest, OpensFromThePlannersEntry)
+{
+    const QString key = SaveNew("Coach's Run", "5", "00:40:00");
+    RegisterExerciseScreens();
+    frmSched2& p = OpenPlanner({kDay});
+    int entry = 0;
+    for (const auto* e : p.DayView->Model().DayEntries())
+        if (e->text == "Coach's Run") entry = e->id;
+    ASSERT_GT(entry, 0);
+    bool opened = false;
+    Ui().OnDialog("frmExerciseLog", [&](QDialog* d) {
+        auto* f = static_cast<frmExerciseLog*>(d);
+        opened = true;
+        EXPECT_EQ(f->SessionName(), "Coach's Run");
+        EXPECT_EQ(f->SessionKey(), key);
+        EXPECT_EQ(f->txtDistance->text(), "5");
+        f->txtCals->setText("321");
+        f->cmdSave->click();
+        return f->result();
+    });
+    p.DayView_DblClick(entry);
+    EXPECT_TRUE(opened);
+    EXPECT_EQ(Ui().LastMessage().text, "Exercise/Sport Saved.");
+    EXPECT_EQ(p.txtCalsOut->text(), "321");
 }
 
 // Start and end are compared by hour and minute: seconds do not count and a session cannot
