@@ -4,6 +4,8 @@
 
 #include <QApplication>
 #include <QFile>
+#include <QSettings>
+#include <QStandardPaths>
 #include <QTemporaryDir>
 
 #include "core/opendatabases.h"
@@ -176,6 +178,9 @@ int main(int argc, char** argv)
     ui::CurrentHooks().msgBox = [](const QString&, int, const QString&) { return int(vbOK); };
     Stores stores;
     g_stores = &stores;
+    // The monitor type the screen keeps goes to the run's own folder, not the user's settings.
+    QStandardPaths::setTestModeEnabled(true);
+    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, stores.dir.path());
     ::benchmark::Initialize(&argc, argv);
     ::benchmark::RunSpecifiedBenchmarks();
     ::benchmark::Shutdown();
