@@ -391,6 +391,15 @@ QWidget* frmExerciseLog::buildDetailsTab()
     grid->setColumnStretch(2, 2);
     grid->setRowStretch(2, 1);   // the notes take what the fields leave
 
+    // Tab runs down the plan beside the result, then the session, the notes and the laps.
+    const QList<QWidget*> order = {txtPlannedDistance, txtDistance,  cboDistUnit, txtPlannedDuration, txtDuration,
+                                   txtPlannedSpeed,    txtSpeed,     cboBaseUnit, cmdCalc,            cboIntensity,
+                                   txtCals,            cmdCalcCals,  txtStartTime, txtEndTime,        cboTraining,
+                                   txtEvent,           cboRoute,     cboFacility, cboEquipment,       txtWarmup,
+                                   txtRecovery,        txtComments,  txtLaps,     SS3};
+    for (int i = 1; i < order.size(); ++i)
+        QWidget::setTabOrder(order[i - 1], order[i]);
+
     for (auto* e : {txtDistance, txtPlannedDistance, txtDuration, txtPlannedDuration, txtSpeed, txtPlannedSpeed, txtCals,
                     txtEvent, txtWarmup, txtRecovery})
         connect(e, &QLineEdit::textEdited, this, [this] { changed(); });

@@ -155,6 +155,14 @@ PsychPanel::PsychPanel(Wording wording, QWidget* parent) : QWidget(parent), m_wo
     v->setContentsMargins(0, 0, 0, 0);
     v->addWidget(page);
 
+    // Tab follows the questions down the first column, then the second.
+    const QList<QWidget*> order = {optGoals[0], optGoals[1], txtGoals,     txtDifferent, cboRating[0], cboRating[1],
+                                   cboRating[2], cboRating[3], optSleep[0], optSleep[1],  cboRating[4], cboRating[5],
+                                   optDoubt[0],  optDoubt[1],  txtDoubt,    txtControlLevel, optVis[0], optVis[1],
+                                   txtVis,       cboRating[6], optun[0],    optun[1],     txtUnforseen, txtRating};
+    for (int i = 1; i < order.size(); ++i)
+        QWidget::setTabOrder(order[i - 1], order[i]);
+
     for (auto* e : {txtGoals, txtDifferent, txtDoubt, txtControlLevel, txtVis, txtUnforseen, txtRating})
         connect(e, &QLineEdit::textChanged, this, &PsychPanel::changed);
     for (auto* c : cboRating)

@@ -185,6 +185,11 @@ TEST_F(ExerciseLogTest, SchedulingOnThreeSelectedDays)
     EXPECT_EQ(Str(UserValue("select Units from Daily_Templates where date=#2026-03-15# and worder=4")), "Road");
     EXPECT_TRUE(p.CalView->HasPicture(d3));
 
+    // Tab runs from the planned distance across to the actual one, and from the speed's button to
+    // the intensity.
+    EXPECT_EQ(f.txtPlannedDistance->nextInFocusChain(), f.txtDistance);
+    EXPECT_EQ(f.cmdCalc->nextInFocusChain(), f.cboIntensity);
+    EXPECT_EQ(f.cboTraining->nextInFocusChain(), f.txtEvent);
     // It opens within 1280 x 720 and can be made smaller still.
     EXPECT_LE(f.width(), 1280);
     EXPECT_LE(f.height(), 720 - 40);
