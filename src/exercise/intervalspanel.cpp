@@ -61,7 +61,9 @@ IntervalsPanel::IntervalsPanel(QWidget* parent) : QWidget(parent)
     SS1->setAccessibleName(QStringLiteral("Intervals"));
 
     auto* top = new QHBoxLayout;
-    top->addWidget(form::Caption(QStringLiteral("&Template"), cboIntervals));
+    QLabel* caption = form::Caption(QStringLiteral("&Template"), cboIntervals);
+    caption->setMinimumWidth(caption->sizeHint().width());
+    top->addWidget(caption);
     top->addWidget(cboIntervals, 1);
     top->addWidget(cmdClearIntervals);
     top->addWidget(cmdDelInterval);
@@ -75,6 +77,12 @@ IntervalsPanel::IntervalsPanel(QWidget* parent) : QWidget(parent)
     auto* lblSS1 = new QLabel(QStringLiteral("&Intervals"), this);
     lblSS1->setBuddy(SS1);
     lblSS1->hide();   // the accelerator reaches the grid; its columns say what it is
+
+    QWidget::setTabOrder(cboIntervals, cmdClearIntervals);
+    QWidget::setTabOrder(cmdClearIntervals, cmdDelInterval);
+    QWidget::setTabOrder(cmdDelInterval, cmdSaveInterval);
+    QWidget::setTabOrder(cmdSaveInterval, Spin1);
+    QWidget::setTabOrder(Spin1, SS1);
 
     connect(cboIntervals, &QComboBox::activated, this, [this](int index) { SelectTemplate(index); });
     connect(cboIntervals, &QComboBox::editTextChanged, this, [this](const QString& text) {

@@ -476,6 +476,9 @@ TEST_F(ExerciseLogTest, IntervalTemplatesAndTheSessionsPlan)
     const QString key = SelectedKey;
     EXPECT_EQ(CountUser("Daily_Intervals where Name='8 x 400' and key='" + key + "'"), 2);
 
+    f.TabPerformance->setCurrentIndex(2);
+    f.resize(1120, 680);
+    f.grab().save("/tmp/orvantis_exerciselog_intervals.png");
     LibraryConn.Execute("insert into Intervals (Name, [Set], Description) values ('Ladder test', '1', '200 m')");
     OpenEntry("Tempo Run", key.toInt());
     frmExerciseLog g;
