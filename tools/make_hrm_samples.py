@@ -188,7 +188,7 @@ def fit_smart_4s():
     return f.bytes()
 
 
-def fit_suunto():
+def fit_watch_big_endian():
     # Big-endian everywhere; the strap connects after 10 s (0xFF before); 5 min at 172 and 5 min
     # at 185, each second; distance and speed beside the heart rate.
     f = Fit()
@@ -356,10 +356,10 @@ def main():
     write('fit_edge_bike.fit', fit_edge_bike())
     write('fit_smart_1s.fit', fit_smart_1s())
     write('fit_smart_4s.fit', fit_smart_4s())
-    write('fit_suunto.fit', fit_suunto())
+    write('fit_watch_big_endian.fit', fit_watch_big_endian())
     write('fit_indoor.fit', fit_indoor())
     write('fit_no_hr.fit', fit_no_hr())
-    whole = fit_suunto()
+    whole = fit_watch_big_endian()
     write('fit_truncated.fit', whole[:len(whole) * 3 // 5])
     bad = bytearray(fit_s_series())
     bad[400] ^= 0x10

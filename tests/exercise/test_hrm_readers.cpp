@@ -114,7 +114,7 @@ TEST(HrmDeviceFiles, SamplesGiveKnownReadingsRatesAndZoneTimes)
         {"fit_smart_1s.fit", 1200, {125, 125, 125}, 1, {"00:10:00", "00:10:00", none, none, none}, ""},
         {"fit_smart_4s.fit", 240, {135, 135, 135}, 4, {"00:08:00", "00:08:00", none, none, none}, ""},
         // Big-endian throughout; the strap's invalid readings of the first 10 s give nothing.
-        {"fit_suunto.fit", 590, {172, 172, 172}, 1, {none, none, none, "00:04:50", "00:05:00"}, ""},
+        {"fit_watch_big_endian.fit", 590, {172, 172, 172}, 1, {none, none, none, "00:04:50", "00:05:00"}, ""},
         // No position, developer fields.
         {"fit_indoor.fit", 900, {150, 150, 150}, 1, {none, "00:15:00", none, none, none}, ""},
         {"fit_no_hr.fit", 0, {}, 1, {none, none, none, none, none}, ""},
