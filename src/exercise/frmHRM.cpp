@@ -14,6 +14,7 @@
 #include "exercise/rules/hrmzones.h"
 
 #include <QComboBox>
+#include <QEvent>
 #include <QFile>
 #include <QGridLayout>
 #include <QHBoxLayout>
@@ -115,6 +116,7 @@ frmHRM::frmHRM(const HrmSession& session, QWidget* parent) : QDialog(parent), m_
     cboHRM->setCurrentIndex(std::max(0, int(cboHRM->findText(stored))));
 
     QMetaObject::connectSlotsByName(this);
+    txtInterval->installEventFilter(this);
     setTabOrder(cboHRM, txtInterval);
     setTabOrder(txtInterval, txtBPM);
     setTabOrder(txtBPM, cmdAdd);
@@ -355,10 +357,12 @@ void frmHRM::on_txtBPM_textChanged(const QString& text)
     cmdAdd->setEnabled(Val(text) > 0);
 }
 
-void frmHRM::on_txtInterval_editingFinished()
+bool frmHRM::eventFilter(QObject* watched, QEvent* event)
 {
-    if (Val(txtInterval->text()) == 0)
+    // A sample rate of 0 becomes 1 whenever the field is left, changed or not.
+    if (watched == txtInterval && event->type() == QEvent::FocusOut && Val(txtInterval->text()) == 0)
         txtInterval->setText(QStringLiteral("1"));
+    return QDialog::eventFilter(watched, event);
 }
 
 void frmHRM::on_lstHRM_itemSelectionChanged()

@@ -64,11 +64,13 @@ public slots:
     void on_cmdClose_clicked();
     void on_cboHRM_currentIndexChanged(int index);
     void on_txtBPM_textChanged(const QString& text);
-    void on_txtInterval_editingFinished();
     void on_lstHRM_itemSelectionChanged();
 
 public:
     void done(int result) override;
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     void LoadHRM();

@@ -10,7 +10,9 @@
 #include "core/widgets/Chart.h"
 #include "exercise/frmHRM.h"
 
+#include <QApplication>
 #include <QComboBox>
+#include <QFocusEvent>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
@@ -164,7 +166,8 @@ TEST_F(HrmScreenTest, TypedReadingsAreStoredFromTheSecondAndSendTheirZones)
 
     // A sample rate of 0 becomes 1 when the field is left.
     f.txtInterval->setText("0");
-    emit f.txtInterval->editingFinished();
+    QFocusEvent leave(QEvent::FocusOut);
+    QApplication::sendEvent(f.txtInterval, &leave);
     EXPECT_EQ(f.txtInterval->text(), "1");
     f.reject();
 }
