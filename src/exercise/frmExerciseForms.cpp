@@ -321,7 +321,8 @@ void frmExerciseForms::loadItem()
     txtComments->clear();
     txtHistory->clear();
     long image = 0;
-    SqlText = "select * from endurance_exercises where exercise='" + SqlQuote(name) + "' and category='" + category + "'";
+    // The item is found by name alone: of two items of one name, the first row's description shows.
+    SqlText = "select * from endurance_exercises where exercise='" + SqlQuote(name) + "'";
     FirstRow(LibraryRS, SqlText, [&](Recordset& rs) {
         txtExerciseName->setText(Str(rs.Field("exercise")));
         txtComments->setPlainText(Str(rs.Field("Desc")));

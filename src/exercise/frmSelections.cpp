@@ -199,12 +199,7 @@ void frmSelections::on_cmdOK_clicked()
         Inform(QStringLiteral("Please save selection field before adding it to the exercise/sport form."));
         return;
     }
-    const QString name = fieldName();
-    if (name.isEmpty()) {
-        cboSelect->setFocus();
-        return;
-    }
-    m_result = name + QLatin1Char('\t') + QStringLiteral("selection");
+    m_result = fieldName() + QLatin1Char('\t') + QStringLiteral("selection");
     accept();
 }
 
