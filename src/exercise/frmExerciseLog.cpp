@@ -576,6 +576,7 @@ void frmExerciseLog::FormatGrid()
     SS2->SetColumnWidthChars(1, 28);
     SS2->SetColumnWidthChars(2, 22);
     SS2->SetColumnWidthChars(3, 16);
+    SS2->horizontalHeader()->setStretchLastSection(true);
     SS2->SetDecimals(2, -1);
     SS2->setAccessibleName(QStringLiteral("Fields"));
     if (auto* corner = SS2->verticalHeader())

@@ -7,6 +7,7 @@
 #include <QPrinter>
 #include <QResizeEvent>
 #include <QRubberBand>
+#include <QHash>
 #include <QSet>
 #include <QScrollBar>
 #include <QToolTip>
@@ -622,19 +623,20 @@ void Chart::rebuild()
         // marks to stay apart, and labels are thinned to what the width can show.
         const int maxLabels = std::max(2, width / 70);
         const int step = std::max(1, (m_count + maxLabels - 1) / maxLabels);
+        // The n-th repeat of a text (an empty one included: the axis takes no empty category)
+        // carries n marks.
         QStringList cats;
-        QSet<QString> used;
+        QHash<QString, int> repeats;
         for (int i = 0; i < m_count; ++i) {
-            QString t = i % step == 0 ? m_labels.value(m_first + i) : QString();
-            if (t.isEmpty())
-                t = QChar(0x200B);   // the axis takes no empty category
-            while (used.contains(t))
-                t += QChar(0x200B);
-            used.insert(t);
-            cats << t;
+            const QString t = i % step == 0 ? m_labels.value(m_first + i) : QString();
+            const int n = repeats[t]++;
+            cats << t + QString(t.isEmpty() ? n + 1 : n, QChar(0x200B));
         }
         auto* ax = new QBarCategoryAxis;
         ax->append(cats.isEmpty() ? QStringList{QString()} : cats);
+        // Thinned labels are never cut to an ellipsis, and a crowd of points draws no line each.
+        ax->setTruncateLabels(false);
+        ax->setGridLineVisible(m_count <= 60);
         axX = ax;
     }
     if (!m_xTitle.isEmpty())
