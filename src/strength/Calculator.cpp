@@ -1,0 +1,6 @@
+#include "strength/Calculator.h"
+
+Calculator::Calculator(QWidget* parent) : QDialog(parent)
+{
+    setWindowTitle(QStringLiteral("Calculator"));
+}

@@ -1,0 +1,6 @@
+#include "strength/frmExercise.h"
+
+frmExercise::frmExercise(QWidget* parent) : QDialog(parent)
+{
+    setWindowTitle(QStringLiteral("Exercise Library"));
+}

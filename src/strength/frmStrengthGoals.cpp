@@ -1,0 +1,6 @@
+#include "strength/frmStrengthGoals.h"
+
+frmStrengthGoals::frmStrengthGoals(QWidget* parent) : QDialog(parent)
+{
+    setWindowTitle(QStringLiteral("Goal Builder"));
+}

@@ -1,0 +1,6 @@
+#include "strength/frmStrengthInfo.h"
+
+frmStrengthInfo::frmStrengthInfo(const QString& exercise, QWidget* parent) : QDialog(parent)
+{
+    setWindowTitle(QStringLiteral("Exercise Information"));
+}

@@ -1,0 +1,6 @@
+#include "strength/frmStrengthLog.h"
+
+frmStrengthLog::frmStrengthLog(QWidget* parent) : QDialog(parent)
+{
+    setWindowTitle(QStringLiteral("Strength Training Log"));
+}

@@ -1,0 +1,6 @@
+#include "strength/frmStrengthWorkouts.h"
+
+frmStrengthWorkouts::frmStrengthWorkouts(QWidget* parent) : QDialog(parent)
+{
+    setWindowTitle(QStringLiteral("Workout Library"));
+}

@@ -1,0 +1,1 @@
+#include "strength/rules/strengthcalc.h"
