@@ -8,6 +8,7 @@
 #include <QListWidget>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QtTest/QTest>
 
 #include "core/shared.h"
 #include "core/store/connection.h"
@@ -143,6 +144,12 @@ TEST_F(WorkoutsTest, AddingSetsAndMovingThem)
         f.SS1->SetActiveCell(4, W::gcReps);
         f.cmdRemoveSet->click();
     }
+    ASSERT_EQ(f.SS1->MaxRows(), 3);
+    // The "+" and "-" keys in the grid do the same.
+    f.SS1->SetActiveCell(1, W::gcGoal);
+    QTest::keyClick(f.SS1, Qt::Key_Plus);
+    EXPECT_EQ(Column(f, W::gcSet), QStringList({"1", "2", "3", "1"}));
+    QTest::keyClick(f.SS1, Qt::Key_Minus);
     ASSERT_EQ(f.SS1->MaxRows(), 3);
 
     // Moving the top row up, or the last one down, is refused; a block moves whole.
