@@ -36,7 +36,8 @@ bool ShowExercisePicture(QLabel* browser, const QString& image)
         browser->setText(QStringLiteral("The picture %1 cannot be shown.").arg(image.trimmed()));
         return true;
     }
-    const QSize room = browser->size().expandedTo(QSize(240, 200));
+    // Fitted to the least room the browser is given, so that no window size cuts it.
+    const QSize room = browser->minimumSize().isEmpty() ? QSize(240, 200) : browser->minimumSize() - QSize(4, 4);
     if (picture.width() > room.width() || picture.height() > room.height())
         picture = picture.scaled(room, Qt::KeepAspectRatio, Qt::SmoothTransformation);
     browser->setPixmap(picture);
