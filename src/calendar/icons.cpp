@@ -23,7 +23,7 @@ QColor NumberColour(int n)
 }
 }  // namespace
 
-int ExerciseIconCount() { return 16; }
+int ExerciseIconCount() { return 17; }
 
 namespace {
 // The white figure of a sport's pictogram, in a square of 18 units.
@@ -174,6 +174,15 @@ void DrawSport(QPainter& p, int image)
         poly({{15, 3}, {6.5, 13}, {3.5, 13}});
         p.setBrush(Qt::white);
         p.drawRect(QRectF(7.5, 14.2, 3, 1.6));
+        break;
+    case 17:  // strength training: a dumbbell
+        p.setBrush(Qt::white);
+        p.drawRoundedRect(QRectF(3, 5, 3, 8), 0.8, 0.8);
+        p.drawRoundedRect(QRectF(12, 5, 3, 8), 0.8, 0.8);
+        p.drawRect(QRectF(1.5, 7, 1.5, 4));
+        p.drawRect(QRectF(15, 7, 1.5, 4));
+        p.setBrush(Qt::NoBrush);
+        poly({{6, 9}, {12, 9}});
         break;
     case 16:  // golf: a flag on its pin
         poly({{7, 2.5}, {7, 15}});

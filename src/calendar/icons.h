@@ -11,9 +11,11 @@ constexpr int CalendarIconSize = 18;
 // The exercise icons of the shared image list, numbered 1 to ExerciseIconCount(): a pictogram
 // of a sport each (1 running, 2 cycling, 3 swimming, 4 rowing, 5 walking, 6 hiking,
 // 7 cross-country skiing, 8 intervals, 9 football, 10 basketball, 11 racket sports,
-// 12 volleyball, 13 skating, 14 cardio machines, 15 team sports, 16 golf). A number above the
-// list, from older data, draws the number in a disc.
+// 12 volleyball, 13 skating, 14 cardio machines, 15 team sports, 16 golf, 17 strength
+// training). A number above the list, from older data, draws the number in a disc.
 int ExerciseIconCount();
+// The icon strength workouts put on their days.
+constexpr int StrengthIcon = 17;
 QPixmap ExerciseIcon(int image);
 // An appointment's icon by its type: 0 Appointment, 1 Competition, 2 Testing.
 QPixmap AppointmentIcon(int type = 0);

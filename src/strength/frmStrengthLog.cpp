@@ -1,6 +1,7 @@
 #include "strength/frmStrengthLog.h"
 
 #include "calendar/calendarstore.h"
+#include "calendar/icons.h"
 #include "calendar/planner.h"
 #include "core/regional.h"
 #include "core/routines.h"
@@ -761,7 +762,7 @@ bool frmStrengthLog::SaveDate(const QDate& date)
     // Everything of one date is written together or not at all.
     StoreTransaction transaction(UserConn);
     if (m_scheduling) {
-        if (!ScheduleEntry(m_name, QStringLiteral("Strength"), date, txtStartTime->time(), txtEndTime->time(), 0)) {
+        if (!ScheduleEntry(m_name, QStringLiteral("Strength"), date, txtStartTime->time(), txtEndTime->time(), StrengthIcon)) {
             MsgBox(QStringLiteral("Workout time is out of range, please verify start and end times."), vbInformation, Msg());
             return false;
         }
