@@ -999,6 +999,18 @@ QList<QDate> PlannerSelectedDates()
     return g_planner ? g_planner->CalView->SelectedDates() : QList<QDate>{CalendarQDate()};
 }
 
+bool ForEachSelectedDay(const std::function<bool(const QDate&)>& fn)
+{
+    const int year = PlannerYear();
+    for (int month = 1; month <= 12; ++month)
+        for (int day = 1; day <= 31; ++day) {
+            const QDate d(year, month, day);
+            if (d.isValid() && PlannerDateSelected(d) && !fn(d))
+                return false;
+        }
+    return true;
+}
+
 void RefreshPlanner()
 {
     if (g_planner) g_planner->RefreshRequested = true;

@@ -6,6 +6,7 @@
 #include <QDate>
 #include <QList>
 #include <QTime>
+#include <functional>
 
 class frmSched2;
 class DayView;
@@ -35,6 +36,9 @@ void SetPlannerAdding(bool adding);
 int PlannerYear();
 bool PlannerDateSelected(const QDate& d);
 QList<QDate> PlannerSelectedDates();
+// Runs `fn` on every day of the planner's year selected in its calendar, in date order; stops at
+// the first day `fn` refuses and returns false then.
+bool ForEachSelectedDay(const std::function<bool(const QDate&)>& fn);
 
 // Asks the planner to redraw its day (entries, icons, figures) once the screen over it closes.
 void RefreshPlanner();

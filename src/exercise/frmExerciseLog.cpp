@@ -939,16 +939,8 @@ void frmExerciseLog::on_cmdSave_clicked()
             saved = SaveDate(m_date);
             return;
         }
-        const int year = PlannerYear();
-        for (int month = 1; month <= 12; ++month)
-            for (int day = 1; day <= 31; ++day) {
-                const QDate d(year, month, day);
-                if (!d.isValid() || !PlannerDateSelected(d))
-                    continue;
-                if (!SaveDate(d))
-                    return;   // the day view refused the times: nothing more, the screen stays
-            }
-        saved = true;
+        // A day whose view refuses the times ends the round: nothing more, the screen stays.
+        saved = ForEachSelectedDay([this](const QDate& d) { return SaveDate(d); });
     });
     if (!saved)
         return;
