@@ -491,28 +491,10 @@ void frmExerciseForms::writeRow(int row, const FieldRow& f)
     SS1->SetText(row, gcUnits, f.units);
 }
 
-bool frmExerciseForms::selectedBlock(int* top, int* bottom) const
-{
-    const auto ranges = SS1->selectedRanges();
-    if (ranges.isEmpty()) {
-        if (SS1->ActiveRow() < 1)
-            return false;
-        *top = *bottom = SS1->ActiveRow();
-        return true;
-    }
-    *top = SS1->MaxRows();
-    *bottom = 1;
-    for (const QTableWidgetSelectionRange& r : ranges) {
-        *top = qMin(*top, r.topRow() + 1);
-        *bottom = qMax(*bottom, r.bottomRow() + 1);
-    }
-    return *top <= *bottom;
-}
-
 void frmExerciseForms::moveBlock(int by)
 {
     int top = 0, bottom = 0;
-    if (!selectedBlock(&top, &bottom))
+    if (!SS1->SelectedRowBlock(&top, &bottom))
         return;
     if (by < 0 && top <= 1) {
         Inform(QStringLiteral("Can't move selected exercise(s) up."));
@@ -538,10 +520,7 @@ void frmExerciseForms::moveBlock(int by)
         for (int i = 0; i < rows.size(); ++i)
             writeRow(first + i, rows[i]);
         SS1->EndUpdate();
-        const int col = qMax(1, SS1->ActiveCol());
-        SS1->clearSelection();
-        SS1->setCurrentCell(top + by - 1, col - 1, QItemSelectionModel::NoUpdate);
-        SS1->setRangeSelected(QTableWidgetSelectionRange(top + by - 1, 0, bottom + by - 1, SS1->MaxCols() - 1), true);
+        SS1->SelectRowBlock(top + by, bottom + by, qMax(1, SS1->ActiveCol()));
     }
     changed();
 }
@@ -683,7 +662,7 @@ void frmExerciseForms::on_cmdAdd_clicked()
 void frmExerciseForms::on_cmdDeleteField_clicked()
 {
     int top = 0, bottom = 0;
-    if (!selectedBlock(&top, &bottom))
+    if (!SS1->SelectedRowBlock(&top, &bottom))
         return;
     {
         QScopedValueRollback<bool> loading(m_loading, true);

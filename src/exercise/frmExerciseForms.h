@@ -77,7 +77,6 @@ private:
     void changed();
     void limitText(QPlainTextEdit* edit, int chars);
     void addImage(int image);
-    bool selectedBlock(int* top, int* bottom) const;
     void moveBlock(int by);
     FieldRow readRow(int row) const;
     void writeRow(int row, const FieldRow& field);

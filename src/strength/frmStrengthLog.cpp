@@ -644,12 +644,8 @@ void frmStrengthLog::on_cmdRemoveSet_clicked()
 QPair<int, int> frmStrengthLog::selectedBlock() const
 {
     int first = 0, last = 0;
-    for (const QTableWidgetSelectionRange& r : SS1->selectedRanges()) {
-        if (first == 0 || r.topRow() + 1 < first) first = r.topRow() + 1;
-        last = std::max(last, r.bottomRow() + 1);
-    }
-    if (first == 0 && SS1->ActiveRow() >= 1 && SS1->ActiveRow() <= SS1->MaxRows())
-        first = last = SS1->ActiveRow();
+    if (!SS1->SelectedRowBlock(&first, &last))
+        return {0, 0};
     return {first, last};
 }
 
@@ -684,9 +680,7 @@ void frmStrengthLog::moveBlock(bool up)
         SS1->EndUpdate();
         FormatData();
         const int shift = up ? -1 : 1;
-        SS1->clearSelection();
-        SS1->setCurrentCell(first + shift - 1, 0, QItemSelectionModel::NoUpdate);
-        SS1->setRangeSelected(QTableWidgetSelectionRange(first + shift - 1, 0, last + shift - 1, colCount - 1), true);
+        SS1->SelectRowBlock(first + shift, last + shift, 1);
     }
     CheckMoveButtons();
     cmdSave->setEnabled(true);

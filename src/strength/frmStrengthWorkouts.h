@@ -98,7 +98,6 @@ private:
     QStringList readRow(int row) const;
     void writeRow(int row, const QStringList& cells);
     int lastRowOf(const QString& exercise) const;
-    bool selectedBlock(int* top, int* bottom) const;
     void moveBlock(int by);
     QString muscleGroupOf(const QString& exercise, const QString& otherwise) const;
     void addWorkoutRow(const QString& name, const QString& description, const QString& muscleGroup,

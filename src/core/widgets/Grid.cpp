@@ -667,6 +667,32 @@ void Grid::SetCellToolTip(int row, int col, const QString& tip)
     }
 }
 
+bool Grid::SelectedRowBlock(int* top, int* bottom) const
+{
+    int first = 0, last = 0;
+    for (const QTableWidgetSelectionRange& r : selectedRanges()) {
+        if (first == 0 || r.topRow() + 1 < first)
+            first = r.topRow() + 1;
+        last = std::max(last, r.bottomRow() + 1);
+    }
+    if (first == 0) {
+        const int active = ActiveRow();
+        if (active < 1 || active > MaxRows())
+            return false;
+        first = last = active;
+    }
+    *top = first;
+    *bottom = last;
+    return true;
+}
+
+void Grid::SelectRowBlock(int top, int bottom, int col)
+{
+    clearSelection();
+    setCurrentCell(top - 1, std::max(0, col - 1), QItemSelectionModel::NoUpdate);
+    setRangeSelected(QTableWidgetSelectionRange(top - 1, 0, bottom - 1, MaxCols() - 1), true);
+}
+
 int Grid::ActiveRow() const { return currentRow() + 1; }
 int Grid::ActiveCol() const { return currentColumn() + 1; }
 void Grid::SetActiveCell(int row, int col) { setCurrentCell(row - 1, col - 1); }

@@ -125,6 +125,12 @@ public:
     void SetTabMovesBetweenCells(bool on) { setTabKeyNavigation(on); }
     bool TabMovesBetweenCells() const { return tabKeyNavigation(); }
 
+    // The block of rows from the first selected to the last (the current row when nothing is
+    // selected); false when there is none. SelectRowBlock selects rows top..bottom whole, with
+    // column `col` of the first current, as a block moved up or down stays selected.
+    bool SelectedRowBlock(int* top, int* bottom) const;
+    void SelectRowBlock(int top, int bottom, int col);
+
     // The current cell (0, 0 when none).
     int ActiveRow() const;
     int ActiveCol() const;
