@@ -115,6 +115,17 @@ bool ScheduleEntry(const QString& name, const QString& workoutType, const QDate&
     return true;
 }
 
+void ReadEntryTimes(const QString& key, const QDate& date, QTime* start, QTime* end)
+{
+    *start = *end = QTime();
+    SqlText = QStringLiteral("select * from calendar where User_ID='") + CurrentUserID + QStringLiteral("' and key=") +
+              QString::number(qlonglong(Val(key))) + QStringLiteral(" and Date=#") + SqlDate(date) + QStringLiteral("#");
+    FirstRow(UserRS, SqlText, [&](Recordset& rs) {
+        *start = EntryTime(rs.Field(QStringLiteral("StartTime")));
+        *end = EntryTime(rs.Field(QStringLiteral("EndTime")));
+    });
+}
+
 long DayCalories()
 {
     SqlText = QStringLiteral("select * from calendar where User_ID='") + CurrentUserID + QStringLiteral("' and date=#")

@@ -24,6 +24,10 @@ void SaveCalendarEntry(const QString& name, const QString& workoutType, const QD
 bool ScheduleEntry(const QString& name, const QString& workoutType, const QDate& date, const QTime& start,
                    const QTime& end, int image);
 
+// The times of day of the signed-in athlete's entry `key` on `date`; each stays invalid when
+// the entry or its time is missing.
+void ReadEntryTimes(const QString& key, const QDate& date, QTime* start, QTime* end);
+
 // The sum of Cals over the entries of the selected day.
 long DayCalories();
 

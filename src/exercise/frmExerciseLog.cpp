@@ -236,15 +236,10 @@ frmExerciseLog::frmExerciseLog(QWidget* parent) : QDialog(parent)
             w->hide();
         Guard([this] {
             // The entry's own times stand until the session's row says otherwise.
-            SqlText = QStringLiteral("select * from calendar where User_ID='") + CurrentUserID +
-                      QStringLiteral("' and key=") + QString::number(qlonglong(Val(m_key))) +
-                      QStringLiteral(" and Date=#") + SqlDate(m_date) + QStringLiteral("#");
-            FirstRow(UserRS, SqlText, [this](Recordset& rs) {
-                const QTime s = EntryTime(rs.Field(QStringLiteral("StartTime")));
-                const QTime e = EntryTime(rs.Field(QStringLiteral("EndTime")));
-                if (s.isValid()) txtStartTime->setTime(s);
-                if (e.isValid()) txtEndTime->setTime(e);
-            });
+            QTime s, e;
+            ReadEntryTimes(m_key, m_date, &s, &e);
+            if (s.isValid()) txtStartTime->setTime(s);
+            if (e.isValid()) txtEndTime->setTime(e);
             LoadInfo();
             LoadForm();
             LoadPsych();
