@@ -1,0 +1,67 @@
+#pragma once
+// The item tabs of the Daily Summary: the Nutrition, Nutrients, Exercise, Strength and three
+// Wellness grids, each filled from the stores for a range and a filter, with its bottom rows
+// (Total and the averages) computed while the rows are read. The screen owns the grids and
+// the filters and calls these in its fixed order; the balance strip is the screen's.
+#include <QDate>
+#include <QString>
+#include <QStringList>
+
+class Grid;
+class QComboBox;
+
+namespace totals {
+
+// The range of one computation: both ends included; `days` is the number of days counted
+// from start to end, both ends included (the screen's tdays).
+struct Range {
+    QDate start, end;
+    int days = 1;
+};
+
+// What the item routines leave for the balance strip. The screen resets caloriesBurned
+// before a computation; exerciseSports resets hoursExercised on entry; nutritionInfo sets
+// caloriesEaten; strengthTraining sets workouts to the number of workouts it listed.
+struct Balance {
+    double caloriesBurned = 0;
+    double hoursExercised = 0;
+    double caloriesEaten = 0;
+    int workouts = 0;
+};
+
+// Which rows of the wellness journal the Feel Well grid lists.
+enum class YesNoFilter { Yes, No, All };
+
+// Column layouts and the labels of the top rows. SSNutrientsSet reads Nutrient_Display.
+void SSNutritionSet(Grid* grid);
+void SSNutrientsSet(Grid* grid);
+void SSExerciseSet(Grid* grid);
+void SSStrengthSet(Grid* grid);
+void SSWellnessSet(Grid* grid, int index);   // 0 Feel Well, 1 Readings, 2 Medication
+
+// The filters, read once when the screen opens: "Show all" (or "Show All") first.
+void FillNutritionFilter(QComboBox* cboNutrition);
+void FillExerciseFilter(QComboBox* cboExerciseSports);
+void FillStrengthFilter(QComboBox* cboStrength);
+void FillWellnessFilters(QComboBox* cboReadings, QComboBox* cboMedication);
+
+// Each cuts its grid(s) back to the top rows and fills them. An empty name, or the
+// "Show all" item's text, means no filter.
+void nutritionInfo(Grid* SSNutrition, Grid* SSNutrients, const QString& meal, const Range& range, Balance& balance);
+void exerciseSports(Grid* SSExercise, const QString& name, const Range& range, Balance& balance);
+void strengthTraining(Grid* SSStrength, const QString& name, const Range& range, Balance& balance);
+void wellnessFeelWell(Grid* grid, YesNoFilter feelWell, YesNoFilter accomplish, const Range& range);
+void wellnessReadings(Grid* grid, const QString& reading, const Range& range);
+void wellnessMedication(Grid* grid, const QString& medication, const Range& range);
+
+// The pages of the tabs, written from the grids as they stand; each returns the page's file
+// name (for ShowReport). `description` is the filter line of the page's head.
+// groups: the group heading over each column of SS1, from column 1 ("" over the date).
+QString PrintSummary(const Grid* SS1, const QStringList& groups, const Grid* SS2, const Range& range);
+QString PrintNutrition(const Grid* SSNutrition, const QString& description, const Range& range);
+QString PrintNutrients(const Grid* SSNutrients, const QString& description, const Range& range);
+QString PrintExercise(const Grid* SSExercise, const QString& description, const Range& range);
+QString PrintStrength(const Grid* SSStrength, const QString& description, const Range& range);
+QString PrintWellness(const Grid* grid, int index, const QString& description, const Range& range);
+
+}  // namespace totals
