@@ -89,6 +89,14 @@ void frmWebView::ShowHelp(const QString& fileName)
     ShowModal(&viewer);
 }
 
+void ShowReport(const QString& fileName)
+{
+    ReportFile = fileName;
+    const QScopedValueRollback<bool> open(PreviewOpen, true);
+    frmWebView viewer(ui::MainWindow());
+    ShowModal(&viewer);
+}
+
 void frmWebView::on_cmdPrint_clicked()
 {
     QPrinter& printer = ProgramPrinter();

@@ -54,3 +54,7 @@ private:
     WebViewOptions m_options;
     bool m_loading = false;
 };
+
+// Shows the report page `fileName` of the program's folder in "Print Preview", modally, as
+// ReportFile, with PreviewOpen set while it shows.
+void ShowReport(const QString& fileName);

@@ -20,6 +20,7 @@ bool Loading = false;
 bool DialogCancelled = false;
 bool NewAthlete = false;
 bool ExitRequested = false;
+bool PreviewOpen = false;
 
 long AppColor = DefaultAppColor;
 
@@ -50,7 +51,7 @@ void ResetSharedState()
     CurrentUserSex.clear();
     CurrentUserPassword.clear();
     WorkoutIn.clear();
-    DataChanged = Loading = DialogCancelled = NewAthlete = ExitRequested = false;
+    DataChanged = Loading = DialogCancelled = NewAthlete = ExitRequested = PreviewOpen = false;
     AppColor = DefaultAppColor;
     SelectedKey.clear();
     SelectedName.clear();

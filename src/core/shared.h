@@ -24,6 +24,7 @@ extern bool Loading;
 extern bool DialogCancelled;
 extern bool NewAthlete;
 extern bool ExitRequested;
+extern bool PreviewOpen;             // the print preview of a report page is showing
 
 extern long AppColor;               // theme colour as a Windows colour value (0x00BBGGRR)
 constexpr long DefaultAppColor = 10841658;
