@@ -22,11 +22,17 @@ struct Counts {
 };
 
 // Adds an athlete with a profile (User_Info and the rows the athlete wizard writes) and
-// returns the new User_ID.
-QString CreateAthlete(const QString& name);
+// returns the new User_ID. The profile starts on `start` (its first weigh-in is dated so).
+// A name already taken is not added twice: the existing athlete's User_ID comes back.
+QString CreateAthlete(const QString& name, const QDate& start = QDate::currentDate());
+
+// The User_ID of the athlete of that name, "" when there is none.
+QString FindAthlete(const QString& name);
 
 // Writes the records of every day from options.from to options.to for options.userId, in
-// one transaction per store. Existing records of those days are left alone.
+// one transaction per store. Existing records of those days are left alone: a day that
+// already has rows of a kind (diary, water, calendar, weigh-in, wellness, readings, log)
+// gets none of that kind.
 Counts Fill(const Options& options);
 
 }  // namespace sampledata
