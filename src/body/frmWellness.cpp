@@ -349,11 +349,16 @@ QWidget* frmWellness::buildHistoryTab()
     Chart1->SetLegendVisible(false);
 
     auto* row = new QHBoxLayout;
-    row->addWidget(form::Caption(QStringLiteral("&Item"), cboGraph));
+    auto caption = [](const QString& text, QWidget* buddy) {
+        QLabel* l = form::Caption(text, buddy);
+        l->setMinimumWidth(l->sizeHint().width() + 2);   // a short caption is never squeezed
+        return l;
+    };
+    row->addWidget(caption(QStringLiteral("&Item"), cboGraph));
     row->addWidget(cboGraph, 1);
-    row->addWidget(form::Caption(QStringLiteral("&From"), txtStartDate));
+    row->addWidget(caption(QStringLiteral("&From"), txtStartDate));
     row->addWidget(txtStartDate);
-    row->addWidget(form::Caption(QStringLiteral("&To"), txtEndDate));
+    row->addWidget(caption(QStringLiteral("&To"), txtEndDate));
     row->addWidget(txtEndDate);
     row->addWidget(cmdGraph);
     row->addWidget(cmdPrintGraph);

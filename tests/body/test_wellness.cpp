@@ -323,6 +323,18 @@ TEST_F(WellnessScreen, PageHoldsTheJournalAndTheListedLinesEscaped)
     EXPECT_TRUE(text.contains("Did you feel well today? &nbsp;<br>"));
     EXPECT_TRUE(text.contains("Medicatons"));
     EXPECT_FALSE(text.contains(" Yes<br>"));
+
+    // The view prints its date with the lines it lists, in the preview.
+    AddLine("2026-11-15", "Uric Acid", "7:00 AM", 6.2, "", 0);
+    SetCalendarDateProvider([] { return QDate(2026, 11, 15); });
+    frmWellness w;
+    w.cmdPrint->click();
+    EXPECT_EQ(Ui().DialogsShown().value(0), "frmWebView");
+    QFile h(page::Path("Wellness.htm"));
+    ASSERT_TRUE(h.open(QIODevice::ReadOnly));
+    const QString printed = QString::fromUtf8(h.readAll());
+    EXPECT_TRUE(printed.contains("Uric Acid</font></td><td align=left width=\"120\"><font size=\"1\">7:00 AM"));
+    EXPECT_TRUE(printed.contains("Reason: &nbsp;Fine &amp; dandy<br>"));
 }
 
 TEST_F(WellnessScreen, GraphShowsSleepOrOneReadingWithinTheRange)
