@@ -30,7 +30,11 @@ namespace {
 // no library distribution.
 class Dice {
 public:
-    explicit Dice(quint32 seed) : m_gen(seed) {}
+    Dice(quint32 seed, const QDate& day, quint32 kind)
+    {
+        std::seed_seq seq{seed, quint32(day.toJulianDay()), kind};
+        m_gen.seed(seq);
+    }
     double Unit() { return double(m_gen()) / 4294967296.0; }
     double Between(double lo, double hi) { return lo + (hi - lo) * Unit(); }
     int Int(int lo, int hi) { return lo + int(Unit() * double(hi - lo + 1)); }
@@ -516,7 +520,6 @@ Counts Fill(const Options& options)
     const QSet<QDate> readingsTaken = TakenDates(QStringLiteral("wellness_readings"), plain, from, to);
     const QSet<QDate> logTaken = TakenDates(QStringLiteral("daily_log"), quoted, from, to);
 
-    Dice dice(options.seed);
     StoreTransaction transaction(UserConn);
 
     Recordset diary(&UserConn), water(&UserConn), calendar(&UserConn), exercise(&UserConn), weights(&UserConn),
@@ -544,27 +547,31 @@ Counts Fill(const Options& options)
     const QStringList goodReasons = {QStringLiteral("Rested and strong"), QStringLiteral("Hit every meal"),
                                      QStringLiteral("Personal best")};
     const double rhrBase = 58;
-    const int weekStart = int(from.toJulianDay() % 7);
     double trend = body.weight;   // the weight the weeks are moving to
     double lastRhr = 0;
 
     for (QDate day = from; day <= to; day = day.addDays(1)) {
         const long dayNumber = long(from.daysTo(day));
+        // Each kind of record of a day throws its own dice: a kind left out on a day (it
+        // already had records) changes nothing else, and the same seed gives the same day.
+        Dice diaryDice(options.seed, day, 1), waterDice(options.seed, day, 2), weighDice(options.seed, day, 3),
+            calendarDice(options.seed, day, 4), wellDice(options.seed, day, 5), readingDice(options.seed, day, 6),
+            logDice(options.seed, day, 7);
 
         // The diary: five meals of real foods in their measures.
         if (!diaryTaken.contains(day) && !a.meals.isEmpty()) {
             for (int m = 0; m < a.meals.size() && m < mealFoods.size(); ++m) {
                 const QList<Food>& pool = mealFoods.at(m);
                 if (pool.isEmpty()) continue;
-                const int items = m == 1 || m == 3 ? dice.Int(1, 2) : dice.Int(2, 4);
+                const int items = m == 1 || m == 3 ? diaryDice.Int(1, 2) : diaryDice.Int(2, 4);
                 QSet<int> chosen;
                 for (int i = 0; i < items && chosen.size() < pool.size(); ++i) {
-                    int k = dice.Int(0, int(pool.size()) - 1);
+                    int k = diaryDice.Int(0, int(pool.size()) - 1);
                     while (chosen.contains(k)) k = (k + 1) % int(pool.size());
                     chosen.insert(k);
                     const QList<QVariant>& food = pool.at(k).row;
                     static const QList<double> portions = {1, 1, 1, 1.5, 2, 0.5};
-                    const double portion = dice.Pick(portions);
+                    const double portion = diaryDice.Pick(portions);
                     const double amount = Val(food.value(3));
                     diary.AddNew();
                     diary.SetField(QStringLiteral("User_ID"), id);
@@ -588,11 +595,11 @@ Counts Fill(const Options& options)
             }
         }
 
-        if (!waterTaken.contains(day) && dice.Chance(0.9)) {
+        if (!waterTaken.contains(day) && waterDice.Chance(0.9)) {
             water.AddNew();
             water.SetField(QStringLiteral("User_ID"), Val(id));
             water.SetField(QStringLiteral("Date"), day);
-            water.SetField(QStringLiteral("water"), dice.Int(5, 11));
+            water.SetField(QStringLiteral("water"), waterDice.Int(5, 11));
             water.Update();
             ++counts.waterDays;
         }
@@ -602,7 +609,7 @@ Counts Fill(const Options& options)
         const double goal = a.target + (body.weight - a.target) * std::exp(-progress / 40.0);
         trend = goal;
         if (dayNumber % 7 == 0 && !weighInTaken.contains(day)) {
-            const double w = regional::Round(trend + dice.Between(-0.6, 0.6), 1);
+            const double w = regional::Round(trend + weighDice.Between(-0.6, 0.6), 1);
             const double ratio = w / body.weight;
             const QString condition = a.condition;
             const double bmr = weighin::CalcBMR(w, a.kg, a.male ? QStringLiteral("M") : QStringLiteral("F"), a.age, condition)
@@ -611,7 +618,7 @@ Counts Fill(const Options& options)
             weighIn.SetField(QStringLiteral("User_ID"), id);
             weighIn.SetField(QStringLiteral("Date"), day);
             for (int g = 0; g < body.girths.size(); ++g)
-                weighIn.SetField(g + 2, regional::Round(body.girths.at(g) * (0.5 + 0.5 * ratio) + dice.Between(-0.2, 0.2), 1));
+                weighIn.SetField(g + 2, regional::Round(body.girths.at(g) * (0.5 + 0.5 * ratio) + weighDice.Between(-0.2, 0.2), 1));
             weighIn.SetField(QStringLiteral("weight"), w);
             weighIn.SetField(QStringLiteral("Height"), a.height);
             weighIn.SetField(QStringLiteral("BodyFat"), regional::Round(19 * ratio * ratio, 1));
@@ -626,23 +633,23 @@ Counts Fill(const Options& options)
 
         // The calendar of the day: a session most days, a workout most days.
         const bool freeDay = calendarTaken.contains(day);
-        const int weekday = int((day.toJulianDay() - weekStart) % 7);
-        const bool sessionToday = !freeDay && !sports.isEmpty() && weekday != 6 && dice.Chance(0.8);
-        const bool workoutToday = !freeDay && !workouts.isEmpty() && weekday != 6 && dice.Chance(0.65);
+        const bool sessionDrawn = calendarDice.Chance(0.8), workoutDrawn = calendarDice.Chance(0.65);
+        const bool sessionToday = !freeDay && !sports.isEmpty() && day.dayOfWeek() != Qt::Sunday && sessionDrawn;
+        const bool workoutToday = !freeDay && !workouts.isEmpty() && day.dayOfWeek() != Qt::Sunday && workoutDrawn;
         int key = 0;
         if (sessionToday) {
-            const Sport& s = sports.at(dice.Int(0, int(sports.size()) - 1));
-            const bool morning = dice.Chance(0.6);
-            const QTime start = morning ? QTime(6, 30 + 5 * dice.Int(0, 5)) : QTime(17, 30 + 5 * dice.Int(0, 5));
-            const int plannedMinutes = s.training ? 15 * dice.Int(2, 6) : 15 * dice.Int(4, 6);
-            const int minutes = qMax(10, plannedMinutes + dice.Int(-8, 10));
+            const Sport& s = sports.at(calendarDice.Int(0, int(sports.size()) - 1));
+            const bool morning = calendarDice.Chance(0.6);
+            const QTime start = morning ? QTime(6, 30 + 5 * calendarDice.Int(0, 5)) : QTime(17, 30 + 5 * calendarDice.Int(0, 5));
+            const int plannedMinutes = s.training ? 15 * calendarDice.Int(2, 6) : 15 * calendarDice.Int(4, 6);
+            const int minutes = qMax(10, plannedMinutes + calendarDice.Int(-8, 10));
             const QTime end = start.addSecs(minutes * 60);
-            const int level = dice.Int(3, 8);
+            const int level = calendarDice.Int(3, 8);
             const double hours = gethours(DurationText(minutes));
             const long cals = CaloriesBurned(IntensityData(a.rates.value(level - 1)), hours, sessionWeight);
             double distance = 0, planned = 0, speed = 0, plannedSpeed = 0;
             if (s.training) {
-                distance = regional::Round(s.kph * dice.Between(0.85, 1.15) * double(minutes) / 60.0 * distanceFactor, 2);
+                distance = regional::Round(s.kph * calendarDice.Between(0.85, 1.15) * double(minutes) / 60.0 * distanceFactor, 2);
                 planned = regional::Round(s.kph * double(plannedMinutes) / 60.0 * distanceFactor, 0);
                 speed = CalcSpeed(distance, distUnit, speedUnit, hours).value_or(0);
                 plannedSpeed = CalcSpeed(planned, distUnit, speedUnit, gethours(DurationText(plannedMinutes))).value_or(0);
@@ -662,7 +669,7 @@ Counts Fill(const Options& options)
             calendar.SetField(QStringLiteral("Intensity"), level);
             calendar.Update();
 
-            const int restHr = int(rhrBase + dice.Int(-3, 4));
+            const int restHr = int(rhrBase + calendarDice.Int(-3, 4));
             exercise.AddNew();
             exercise.SetField(QStringLiteral("User_ID"), id);
             exercise.SetField(QStringLiteral("Date"), day);
@@ -682,27 +689,27 @@ Counts Fill(const Options& options)
             exercise.SetField(QStringLiteral("Warmup"), QStringLiteral("10 min easy"));
             exercise.SetField(QStringLiteral("Recovery"), QStringLiteral("5 min easy, stretch"));
             exercise.SetField(QStringLiteral("LapTimes"), QString());
-            exercise.SetField(QStringLiteral("Type"), dice.Chance(0.05) ? QStringLiteral("Competition") : dice.Pick(trainingTypes));
+            exercise.SetField(QStringLiteral("Type"), calendarDice.Chance(0.05) ? QStringLiteral("Competition") : calendarDice.Pick(trainingTypes));
             exercise.SetField(QStringLiteral("EventName"), QString());
             exercise.SetField(QStringLiteral("Route"), QString());
             exercise.SetField(QStringLiteral("facility"), QString());
             exercise.SetField(QStringLiteral("Equipment"), QString());
-            exercise.SetField(QStringLiteral("Comments"), dice.Chance(0.2) ? QStringLiteral("Felt good throughout.") : QString());
+            exercise.SetField(QStringLiteral("Comments"), calendarDice.Chance(0.2) ? QStringLiteral("Felt good throughout.") : QString());
             exercise.SetField(QStringLiteral("Cals"), qlonglong(cals));
             exercise.SetField(QStringLiteral("StartHeart"), restHr + 20);
-            exercise.SetField(QStringLiteral("EndHeart"), 110 + 5 * level + dice.Int(0, 10));
+            exercise.SetField(QStringLiteral("EndHeart"), 110 + 5 * level + calendarDice.Int(0, 10));
             for (int z = 1; z <= 5; ++z) exercise.SetField(QStringLiteral("Zone%1").arg(z), QString());
-            exercise.SetField(QStringLiteral("avgHR"), qlonglong(100 + 7 * level + dice.Int(-5, 5)));
+            exercise.SetField(QStringLiteral("avgHR"), qlonglong(100 + 7 * level + calendarDice.Int(-5, 5)));
             exercise.SetField(QStringLiteral("TimetoRHR"), QString());
             exercise.Update();
             ++counts.sessions;
         }
         if (workoutToday) {
-            const Workout& w = workouts.at(dice.Int(0, int(workouts.size()) - 1));
+            const Workout& w = workouts.at(calendarDice.Int(0, int(workouts.size()) - 1));
             const QTime start = sessionToday ? QTime(19, 0) : QTime(12, 0);
-            const int minutes = 45 + 5 * dice.Int(0, 6);
+            const int minutes = 45 + 5 * calendarDice.Int(0, 6);
             const QTime end = start.addSecs(minutes * 60);
-            const int level = dice.Int(4, 6);
+            const int level = calendarDice.Int(4, 6);
             const QString duration = DurationText(minutes);
             const long cals = strengthlog::WorkoutCalories(IntensityData(a.rates.value(level - 1)), duration, sessionWeight);
             const QString k = QString::number(++key);
@@ -715,7 +722,7 @@ Counts Fill(const Options& options)
             calendar.SetField(QStringLiteral("StartTime"), EntryText(day, start));
             calendar.SetField(QStringLiteral("EndTime"), EntryText(day, end));
             calendar.SetField(QStringLiteral("Image"), StrengthIcon);
-            calendar.SetField(QStringLiteral("Complete"), dice.Chance(0.9));
+            calendar.SetField(QStringLiteral("Complete"), calendarDice.Chance(0.9));
             calendar.SetField(QStringLiteral("duration"), duration);
             calendar.SetField(QStringLiteral("Cals"), double(cals));
             calendar.SetField(QStringLiteral("Intensity"), level);
@@ -737,7 +744,7 @@ Counts Fill(const Options& options)
                 weights.SetField(QStringLiteral("muscle_group"), s.group);
                 weights.SetField(QStringLiteral("exercise"), s.exercise);
                 weights.SetField(QStringLiteral("Sets"), s.set);
-                weights.SetField(QStringLiteral("Reps"), s.reps > 0 ? s.reps : double(dice.Int(8, 12)));
+                weights.SetField(QStringLiteral("Reps"), s.reps > 0 ? s.reps : double(calendarDice.Int(8, 12)));
                 weights.SetField(QStringLiteral("weight"), a.kg ? load : regional::Round(load * 2.2, 0));
                 weights.SetField(QStringLiteral("Intensity"), strengthlog::IntensityText(s.intensity));
                 weights.SetField(QStringLiteral("Goal"), strengthlog::NoteText(s.goal));
@@ -749,20 +756,20 @@ Counts Fill(const Options& options)
         }
 
         // The wellness journal and its readings.
-        double sleep = 7.5;
-        if (!wellnessTaken.contains(day) && dice.Chance(0.85)) {
-            sleep = regional::Round(dice.Between(5.5, 9.0) * 4, 0) / 4;
-            const bool well = dice.Chance(0.85);
-            const bool done = dice.Chance(0.75);
-            const QTime wake(dice.Chance(0.8) ? dice.Int(5, 7) : dice.Int(8, 9), 5 * dice.Int(0, 11));
+        const bool journal = wellDice.Chance(0.85);
+        const double sleep = regional::Round(wellDice.Between(5.5, 9.0) * 4, 0) / 4;
+        if (!wellnessTaken.contains(day) && journal) {
+            const bool well = wellDice.Chance(0.85);
+            const bool done = wellDice.Chance(0.75);
+            const QTime wake(wellDice.Chance(0.8) ? wellDice.Int(5, 7) : wellDice.Int(8, 9), 5 * wellDice.Int(0, 11));
             wellness.AddNew();
             wellness.SetField(QStringLiteral("User_ID"), id);
             wellness.SetField(QStringLiteral("Date"), day);
             wellness.SetField(QStringLiteral("FeelWell"), well);
             wellness.SetField(QStringLiteral("txtFeelWell"),
-                              !well ? dice.Pick(feelReasons) : (dice.Chance(0.15) ? dice.Pick(goodReasons) : QString()));
+                              !well ? wellDice.Pick(feelReasons) : (wellDice.Chance(0.15) ? wellDice.Pick(goodReasons) : QString()));
             wellness.SetField(QStringLiteral("Accomplish"), done);
-            wellness.SetField(QStringLiteral("txtAccomplish"), !done && dice.Chance(0.7) ? dice.Pick(goalReasons) : QString());
+            wellness.SetField(QStringLiteral("txtAccomplish"), !done && wellDice.Chance(0.7) ? wellDice.Pick(goalReasons) : QString());
             wellness.SetField(QStringLiteral("sleep"), sleep);
             wellness.SetField(QStringLiteral("wakeup"), ClockText(wake));
             wellness.Update();
@@ -781,27 +788,27 @@ Counts Fill(const Options& options)
                 readings.Update();
                 ++counts.readings;
             };
-            if (dice.Chance(0.7)) {
-                lastRhr = rhrBase - 3.0 * double(dayNumber) / 365.0 + dice.Int(-3, 3);
+            if (readingDice.Chance(0.7)) {
+                lastRhr = rhrBase - 3.0 * double(dayNumber) / 365.0 + readingDice.Int(-3, 3);
                 reading(QStringLiteral("Resting Heart Rate - bpm"), QTime(6, 45), regional::Round(lastRhr, 0), QString(), 0);
             }
             if (dayNumber % 7 == 3)
                 reading(a.kg ? QStringLiteral("Weight - kg") : QStringLiteral("Weight - lbs"), QTime(7, 0),
-                        regional::Round(trend + dice.Between(-0.5, 0.5), 1), QString(), 0);
+                        regional::Round(trend + readingDice.Between(-0.5, 0.5), 1), QString(), 0);
             if (dayNumber % 4 == 1) {
-                reading(QStringLiteral("Blood Pressure - systolic"), QTime(7, 10), 112 + dice.Int(0, 14), QString(), 0);
-                reading(QStringLiteral("Blood Pressure - diastolic"), QTime(7, 10), 70 + dice.Int(0, 10), QString(), 0);
+                reading(QStringLiteral("Blood Pressure - systolic"), QTime(7, 10), 112 + readingDice.Int(0, 14), QString(), 0);
+                reading(QStringLiteral("Blood Pressure - diastolic"), QTime(7, 10), 70 + readingDice.Int(0, 10), QString(), 0);
             }
-            if (dice.Chance(0.04))
-                reading(dice.Chance(0.5) ? QStringLiteral("Ibuprofen") : QStringLiteral("Antihistamine"), QTime(20, 0), 0,
-                        dice.Chance(0.5) ? QStringLiteral("200 mg") : QStringLiteral("1 tablet"), 1);
+            if (readingDice.Chance(0.04))
+                reading(readingDice.Chance(0.5) ? QStringLiteral("Ibuprofen") : QStringLiteral("Antihistamine"), QTime(20, 0), 0,
+                        readingDice.Chance(0.5) ? QStringLiteral("200 mg") : QStringLiteral("1 tablet"), 1);
         }
 
-        if (!logTaken.contains(day) && dice.Chance(0.2)) {
+        if (!logTaken.contains(day) && logDice.Chance(0.2)) {
             log.AddNew();
             log.SetField(QStringLiteral("User_ID"), id);
             log.SetField(QStringLiteral("Date"), day);
-            log.SetField(QStringLiteral("Log"), LogText(dice, sessionToday, workoutToday, sleep));
+            log.SetField(QStringLiteral("Log"), LogText(logDice, sessionToday, workoutToday, sleep));
             log.Update();
             ++counts.logs;
         }
