@@ -20,29 +20,35 @@
 #include <QTextDocument>
 #include <QTime>
 #include <cmath>
-#include <random>
 
 namespace sampledata {
 
 namespace {
 
-// The same seed gives the same numbers on every platform: the generator's raw output only,
+// The same seed gives the same numbers on every platform: a generator of our own (splitmix64),
 // no library distribution.
 class Dice {
 public:
     Dice(quint32 seed, const QDate& day, quint32 kind)
+        : m_state((quint64(seed) << 32) ^ (quint64(day.toJulianDay()) << 4) ^ kind)
     {
-        std::seed_seq seq{seed, quint32(day.toJulianDay()), kind};
-        m_gen.seed(seq);
+        Next();
     }
-    double Unit() { return double(m_gen()) / 4294967296.0; }
+    double Unit() { return double(Next() >> 11) / 9007199254740992.0; }
     double Between(double lo, double hi) { return lo + (hi - lo) * Unit(); }
     int Int(int lo, int hi) { return lo + int(Unit() * double(hi - lo + 1)); }
     bool Chance(double p) { return Unit() < p; }
     template <class T> const T& Pick(const QList<T>& list) { return list.at(Int(0, int(list.size()) - 1)); }
 
 private:
-    std::mt19937 m_gen;
+    quint64 Next()
+    {
+        quint64 z = (m_state += 0x9E3779B97F4A7C15ull);
+        z = (z ^ (z >> 30)) * 0xBF58476D1CE4E5B9ull;
+        z = (z ^ (z >> 27)) * 0x94D049BB133111EBull;
+        return z ^ (z >> 31);
+    }
+    quint64 m_state;
 };
 
 QString Quoted(const QString& id) { return QStringLiteral("'") + id + QStringLiteral("'"); }
@@ -524,15 +530,12 @@ Counts Fill(const Options& options)
 
     Recordset diary(&UserConn), water(&UserConn), calendar(&UserConn), exercise(&UserConn), weights(&UserConn),
         weighIn(&UserConn), wellness(&UserConn), readings(&UserConn), log(&UserConn);
-    diary.Open(QStringLiteral("daily_nutrition"));
-    water.Open(QStringLiteral("daily_water"));
-    calendar.Open(QStringLiteral("calendar"));
-    exercise.Open(QStringLiteral("Daily_Exercise"));
-    weights.Open(QStringLiteral("Daily_Weights"));
-    weighIn.Open(QStringLiteral("WeighIn"));
-    wellness.Open(QStringLiteral("wellness"));
-    readings.Open(QStringLiteral("wellness_readings"));
-    log.Open(QStringLiteral("daily_log"));
+    const QList<QPair<Recordset*, QString>> tables = {
+        {&diary, QStringLiteral("daily_nutrition")}, {&water, QStringLiteral("daily_water")},
+        {&calendar, QStringLiteral("calendar")},     {&exercise, QStringLiteral("Daily_Exercise")},
+        {&weights, QStringLiteral("Daily_Weights")}, {&weighIn, QStringLiteral("WeighIn")},
+        {&wellness, QStringLiteral("wellness")},     {&readings, QStringLiteral("wellness_readings")},
+        {&log, QStringLiteral("daily_log")}};
 
     const QString distUnit = a.kg ? QStringLiteral("kilometers") : QStringLiteral("miles");
     const QString speedUnit = a.kg ? QStringLiteral("kph") : QStringLiteral("mph");
@@ -552,6 +555,12 @@ Counts Fill(const Options& options)
 
     for (QDate day = from; day <= to; day = day.addDays(1)) {
         const long dayNumber = long(from.daysTo(day));
+        // A recordset keeps the rows it added: a fresh one each month keeps the memory small.
+        if (dayNumber % 31 == 0)
+            for (const auto& [rs, table] : tables) {
+                rs->Close();
+                rs->Open(table);
+            }
         // Each kind of record of a day throws its own dice: a kind left out on a day (it
         // already had records) changes nothing else, and the same seed gives the same day.
         Dice diaryDice(options.seed, day, 1), waterDice(options.seed, day, 2), weighDice(options.seed, day, 3),
