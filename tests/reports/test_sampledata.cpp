@@ -38,7 +38,7 @@ protected:
     {
         QStringList lines;
         const QStringList quoted = {"daily_nutrition", "calendar", "Daily_Exercise", "Daily_Weights",
-                                    "WeighIn",         "wellness", "daily_log"};
+                                    "WeighIn",         "wellness", "daily_log",     "Daily_Psych"};
         const QStringList plain = {"daily_water", "wellness_readings"};
         Recordset rs(&UserConn);
         // Meals are numbered over all athletes: a diary row names its meal by position.
@@ -155,6 +155,9 @@ TEST_F(SampleData, MonthForFreshAthleteReadsBackAsTheScreensWriteIt)
         const QString where = QString("%1 where %2 and date=#%3# and key='%4' and name='%5'")
                                   .arg(log, u, day, key, SqlQuote(Str(c.Field("Name"))));
         EXPECT_GT(CountUser(where), 0) << where.toStdString();
+        EXPECT_EQ(CountUser(QString("Daily_Psych where %1 and date=#%2# and key='%3' and name='%4'")
+                                .arg(u, day, key, SqlQuote(Str(c.Field("Name"))))),
+                  1);
         if (log == "Daily_Exercise") {
             FirstRow(UserRS, "select cals, intensity from " + where, [&](Recordset& e) {
                 EXPECT_EQ(Val(e.Field(0)), Val(c.Field("Cals")));

@@ -529,13 +529,32 @@ Counts Fill(const Options& options)
     StoreTransaction transaction(UserConn);
 
     Recordset diary(&UserConn), water(&UserConn), calendar(&UserConn), exercise(&UserConn), weights(&UserConn),
-        weighIn(&UserConn), wellness(&UserConn), readings(&UserConn), log(&UserConn);
+        weighIn(&UserConn), wellness(&UserConn), readings(&UserConn), log(&UserConn), psych(&UserConn);
     const QList<QPair<Recordset*, QString>> tables = {
         {&diary, QStringLiteral("daily_nutrition")}, {&water, QStringLiteral("daily_water")},
         {&calendar, QStringLiteral("calendar")},     {&exercise, QStringLiteral("Daily_Exercise")},
         {&weights, QStringLiteral("Daily_Weights")}, {&weighIn, QStringLiteral("WeighIn")},
         {&wellness, QStringLiteral("wellness")},     {&readings, QStringLiteral("wellness_readings")},
-        {&log, QStringLiteral("daily_log")}};
+        {&log, QStringLiteral("daily_log")},         {&psych, QStringLiteral("Daily_Psych")}};
+    // The questionnaire both logs save with a session: answers of the panel's lists.
+    auto addPsych = [&](Dice& dice, const QString& name, const QString& key, bool strength, const QDate& day) {
+        static const QStringList levels = {QStringLiteral("low"), QStringLiteral("medium"), QStringLiteral("medium"),
+                                           QStringLiteral("high"), QStringLiteral("very high")};
+        static const char* const ratings[] = {"Levelbefore", "Levelafter", "Levelfocus", "LevelConfidence",
+                                              "LevelActivation", "LevelStress", "LevelCommitted"};
+        psych.AddNew();
+        psych.SetField(QStringLiteral("User_ID"), id);
+        psych.SetField(QStringLiteral("Date"), day);
+        psych.SetField(QStringLiteral("Name"), name);
+        psych.SetField(QStringLiteral("Key"), key);
+        const bool goals = dice.Chance(0.8);
+        if (strength || goals) psych.SetField(QStringLiteral("AccomplishGoals"), goals);
+        if (dice.Chance(0.7)) psych.SetField(QStringLiteral("sleep"), true);
+        psych.SetField(QStringLiteral("AccompishText"), goals ? QString() : QStringLiteral("Cut it short"));
+        for (const char* column : ratings) psych.SetField(QString::fromLatin1(column), dice.Pick(levels));
+        psych.SetField(QStringLiteral("LevelRating"), QString::number(dice.Int(5, 9)));
+        psych.Update();
+    };
 
     const QString distUnit = a.kg ? QStringLiteral("kilometers") : QStringLiteral("miles");
     const QString speedUnit = a.kg ? QStringLiteral("kph") : QStringLiteral("mph");
@@ -711,6 +730,7 @@ Counts Fill(const Options& options)
             exercise.SetField(QStringLiteral("avgHR"), qlonglong(100 + 7 * level + calendarDice.Int(-5, 5)));
             exercise.SetField(QStringLiteral("TimetoRHR"), QString());
             exercise.Update();
+            addPsych(calendarDice, s.name, k, false, day);
             ++counts.sessions;
         }
         if (workoutToday) {
@@ -761,6 +781,7 @@ Counts Fill(const Options& options)
                 weights.SetField(QStringLiteral("worder"), ++order);
                 weights.Update();
             }
+            addPsych(calendarDice, w.name, k, true, day);
             ++counts.workouts;
         }
 
@@ -823,7 +844,7 @@ Counts Fill(const Options& options)
         }
     }
 
-    for (Recordset* rs : {&diary, &water, &calendar, &exercise, &weights, &weighIn, &wellness, &readings, &log}) rs->Close();
+    for (const auto& [rs, table] : tables) rs->Close();
     // A resting heart rate entered in the journal reaches the heart-rate settings.
     if (lastRhr > 0)
         UserConn.Execute(QStringLiteral("update hrm_info set RESTING_HR = ") + QString::number(regional::Round(lastRhr, 0)) +
