@@ -760,6 +760,7 @@ Counts Fill(const Options& options)
             // Loads creep up over the months.
             const double growth = 1.0 + 0.15 * double(dayNumber) / 365.0;
             int order = 0;
+            const QDateTime setStart(day, start), setEnd(day, end);
             for (const WorkoutSet& s : w.sets) {
                 const double base = s.weight > 0 ? s.weight : BaseLoad(s.exercise);
                 const double load = base > 0 ? regional::Round(base * std::min(growth, 1.6) / 2.5, 0) * 2.5 : 0;
@@ -768,8 +769,8 @@ Counts Fill(const Options& options)
                 weights.SetField(QStringLiteral("Date"), day);
                 weights.SetField(QStringLiteral("Name"), w.name);
                 weights.SetField(QStringLiteral("Key"), k);
-                weights.SetField(QStringLiteral("StartTime"), QDateTime(day, start));
-                weights.SetField(QStringLiteral("EndTime"), QDateTime(day, end));
+                weights.SetField(QStringLiteral("StartTime"), setStart);
+                weights.SetField(QStringLiteral("EndTime"), setEnd);
                 weights.SetField(QStringLiteral("muscle_group"), s.group);
                 weights.SetField(QStringLiteral("exercise"), s.exercise);
                 weights.SetField(QStringLiteral("Sets"), s.set);
