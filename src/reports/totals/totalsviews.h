@@ -54,8 +54,15 @@ void wellnessFeelWell(Grid* grid, YesNoFilter feelWell, YesNoFilter accomplish, 
 void wellnessReadings(Grid* grid, const QString& reading, const Range& range);
 void wellnessMedication(Grid* grid, const QString& medication, const Range& range);
 
+// The wake-up times of the Feel Well grid. WakeupHours reads one as the grid shows it
+// ("6:30:00 AM") into hours after midnight, false when it does not count; WakeupMean writes
+// the Average row's time ("06:30 AM") from the sum and count of those hours, "" for none.
+bool WakeupHours(const QString& shown, double* hours);
+QString WakeupMean(double sum, int count);
+
 // The pages of the tabs, written from the grids as they stand; each returns the page's file
 // name (for ShowReport). `description` is the filter line of the page's head.
+// A description of several lines writes one head row per line.
 // groups: the group heading over each column of SS1, from column 1 ("" over the date).
 QString PrintSummary(const Grid* SS1, const QStringList& groups, const Grid* SS2, const Range& range);
 QString PrintNutrition(const Grid* SSNutrition, const QString& description, const Range& range);
@@ -63,5 +70,12 @@ QString PrintNutrients(const Grid* SSNutrients, const QString& description, cons
 QString PrintExercise(const Grid* SSExercise, const QString& description, const Range& range);
 QString PrintStrength(const Grid* SSStrength, const QString& description, const Range& range);
 QString PrintWellness(const Grid* grid, int index, const QString& description, const Range& range);
+
+// The filter lines of the pages' heads: "All meals", "All exercise/sports", "All Strength
+// Training", "All Readings", "All Medication" when the filter shows all, else the chosen name;
+// the Feel Well page has two lines, "Feel Well: " and "Accomplished Goals: " with All, Yes or No.
+enum class TotalsPage { Nutrition, Exercise, Strength, Readings, Medication };
+QString FilterDescription(TotalsPage page, const QString& filter);
+QString FeelWellDescription(YesNoFilter feelWell, YesNoFilter accomplish);
 
 }  // namespace totals
