@@ -43,12 +43,15 @@ frmWebView::frmWebView(QWidget* parent, WebViewOptions options) : QDialog(parent
         return b;
     };
     cmdPrint = makeButton("cmdPrint", QStringLiteral("&Print"));
+    cmdPdf = makeButton("cmdPdf", QStringLiteral("Print to P&DF..."));
+    cmdPdf->setToolTip(QStringLiteral("Print this page to a PDF file"));
     cmdSave = makeButton("cmdSave", QStringLiteral("&Save"));
     cmdSend = makeButton("cmdSend", QStringLiteral("&Share on the Web"));
     cmdClose = makeButton("cmdClose", QStringLiteral("&Close"));
 
     auto* bar = new QHBoxLayout;
     bar->addWidget(cmdPrint);
+    bar->addWidget(cmdPdf);
     bar->addWidget(cmdSave);
     bar->addWidget(cmdSend);
     bar->addSpacing(12);
@@ -103,6 +106,32 @@ void frmWebView::on_cmdPrint_clicked()
     const QString title = browser->PageTitle();
     printer.setDocName(title.isEmpty() ? (m_options.file.isEmpty() ? ReportFile : m_options.file) : title);
     if (!PrintDialog(&printer)) return;
+    QString error;
+    if (browser->Print(&printer, &error))
+        MsgBox(QStringLiteral("Report printed."), vbInformation, QStringLiteral("Message"));
+    else
+        MsgBox(QStringLiteral("Error trying to print.Error:") + error, vbInformation, QStringLiteral("Message"));
+}
+
+void frmWebView::on_cmdPdf_clicked()
+{
+    FileDialogOptions o;
+    o.save = true;
+    o.folder = ProgramFolder();
+    QString base = m_options.file.isEmpty() ? ReportFile : m_options.file;
+    base.remove(QRegularExpression(QStringLiteral("\\.html?$"), QRegularExpression::CaseInsensitiveOption));
+    o.fileName = base + QStringLiteral(".pdf");
+    o.defaultExt = QStringLiteral("pdf");
+    o.filter = QStringLiteral("PDF File|*.pdf");
+    QString target = FileDialog(o);
+    if (target.isEmpty()) return;
+    if (!target.endsWith(QLatin1String(".pdf"), Qt::CaseInsensitive)) target += QStringLiteral(".pdf");
+    QPrinter printer(QPrinter::HighResolution);
+    printer.setOutputFormat(QPrinter::PdfFormat);
+    printer.setOutputFileName(target);
+    printer.setPageLayout(ProgramPrinter().pageLayout());
+    const QString title = browser->PageTitle();
+    printer.setDocName(title.isEmpty() ? base : title);
     QString error;
     if (browser->Print(&printer, &error))
         MsgBox(QStringLiteral("Report printed."), vbInformation, QStringLiteral("Message"));

@@ -19,8 +19,8 @@ struct WebViewOptions {
 };
 
 // "Print Preview": shows a page from the program's folder (by default the one named by
-// ReportFile), prints it with "Page N of M" on every sheet, saves a copy and changes the
-// font size.
+// ReportFile), prints it with "Page N of M" on every sheet, on a printer or to a PDF file,
+// saves a copy and changes the font size.
 class frmWebView : public QDialog {
     Q_OBJECT
 public:
@@ -35,6 +35,7 @@ public:
     PageView* browser = nullptr;
     QComboBox* cboFontSize = nullptr;
     QPushButton* cmdPrint = nullptr;
+    QPushButton* cmdPdf = nullptr;
     QPushButton* cmdSave = nullptr;
     QPushButton* cmdSend = nullptr;
     QPushButton* cmdClose = nullptr;
@@ -45,6 +46,9 @@ public:
 
 public slots:
     void on_cmdPrint_clicked();
+    // Prints the page to a PDF file chosen through the file dialog, with the same footer and
+    // messages as the printer.
+    void on_cmdPdf_clicked();
     void on_cmdSave_clicked();
     void on_cmdSend_clicked();
     void on_cmdClose_clicked();

@@ -31,6 +31,59 @@ QString FileName(const QString& base)
 
 QString Path(const QString& fileName) { return ProgramFile(fileName); }
 
+namespace table {
+
+QString Open()
+{
+    return QStringLiteral("<table border=1 CELLSPACING=0 CELLPADDING=0 width=100% align=center >");
+}
+
+QString Close() { return QStringLiteral("</table>"); }
+
+QString CellText(const QString& value)
+{
+    return value.isEmpty() ? QStringLiteral("&nbsp;") : Escape(value);
+}
+
+QString HeadingRow(const QStringList& captions, int textColumns)
+{
+    QString row = QStringLiteral("<tr bgcolor=\"#CCCCCC\">");
+    for (int i = 0; i < captions.size(); ++i) {
+        if (i < textColumns)
+            row += QStringLiteral("<td><font size=\"1\">") + CellText(captions[i]) + QStringLiteral("</font></td>");
+        else
+            row += QStringLiteral("<td><center><font size=\"1\">") + CellText(captions[i]) +
+                   QStringLiteral("</font></center></td>");
+    }
+    return row + QStringLiteral("</tr>");
+}
+
+namespace {
+QString BodyCell(bool number, const QString& value, bool bold)
+{
+    const QString text = bold && !value.isEmpty() ? QStringLiteral("<b>") + Escape(value) + QStringLiteral("</b>")
+                                                  : CellText(value);
+    return (number ? QStringLiteral("<td align=right width=\"40\"><font size=\"1\">")
+                   : QStringLiteral("<td align=left width=\"120\"><font size=\"1\">")) +
+           text + QStringLiteral("</font></td>");
+}
+
+QString BodyRow(const QStringList& values, int textColumns, bool bold)
+{
+    QString row = QStringLiteral("<tr>");
+    for (int i = 0; i < values.size(); ++i)
+        row += BodyCell(i >= textColumns, values[i], bold);
+    return row + QStringLiteral("</tr>");
+}
+}  // namespace
+
+QString TextCell(const QString& value) { return BodyCell(false, value, false); }
+QString NumberCell(const QString& value) { return BodyCell(true, value, false); }
+QString Row(const QStringList& values, int textColumns) { return BodyRow(values, textColumns, false); }
+QString BoldRow(const QStringList& values, int textColumns) { return BodyRow(values, textColumns, true); }
+
+}  // namespace table
+
 PageWriter::PageWriter(const QString& fileName) : m_fileName(fileName), m_file(page::Path(fileName))
 {
     if (!m_file.open(QIODevice::WriteOnly | QIODevice::Truncate | QIODevice::Text))

@@ -26,6 +26,28 @@ QString Path(const QString& fileName);
 // Writes one page. Opening replaces the file and makes it the shared ReportFile; a file
 // that cannot be written throws StoreError (75, with the path and the reason), which the
 // caller's handler shows.
+// The table idiom of the daily pages: a bordered table the width of the sheet, a grey
+// heading row, small text. Captions and values are escaped here.
+namespace table {
+// "<table border=1 CELLSPACING=0 CELLPADDING=0 width=100% align=center >"
+QString Open();
+// "</table>"
+QString Close();
+// The grey heading row: the first `textColumns` captions as text cells, the rest centred as
+// the captions of number columns.
+QString HeadingRow(const QStringList& captions, int textColumns);
+// Body cells: text to the left (width 120), numbers to the right (width 40). An empty value
+// is written as a blank so the cell keeps its border.
+QString TextCell(const QString& value);
+QString NumberCell(const QString& value);
+// One body row of `textColumns` text cells followed by number cells.
+QString Row(const QStringList& values, int textColumns);
+// A row in bold, e.g. a meal's total: the same cells with each value bold.
+QString BoldRow(const QStringList& values, int textColumns);
+// The text of a cell: escaped, "&nbsp;" when empty.
+QString CellText(const QString& value);
+}  // namespace table
+
 class PageWriter {
 public:
     explicit PageWriter(const QString& fileName);

@@ -43,9 +43,9 @@
 #include <algorithm>
 #include <memory>
 
-std::function<void(const QString& fileName)>& ReportStrengthLink()
+std::function<void(const QString& fileName, const StrengthLogPrint& print)>& ReportStrengthLink()
 {
-    static std::function<void(const QString&)> link;
+    static std::function<void(const QString&, const StrengthLogPrint&)> link;
     return link;
 }
 
@@ -799,7 +799,20 @@ void frmStrengthLog::on_cmdPreviewWeights_clicked()
     file.remove(QLatin1Char('/'));
     file.remove(QLatin1Char('\\'));
     file += QStringLiteral(".htm");
-    Guard([&] { report(file); });
+    StrengthLogPrint print;
+    print.workout.name = lblWorkout->text();
+    print.workout.description = lblDesc->text();
+    for (int r = 1; r <= SS1->MaxRows(); ++r) {
+        const QStringList c = rowCells(r);
+        print.workout.rows.append({c.value(colGroup - 1), c.value(colExercise - 1), c.value(colSet - 1), c.value(colReps - 1),
+                                   c.value(colWeight - 1), c.value(colIntensity - 1), c.value(colGoal - 1),
+                                   c.value(colNotes - 1)});
+    }
+    print.date = m_date;
+    print.key = m_scheduling ? QString() : m_key;
+    print.from = regional::FormatDate(QDateTime(m_date, txtStartTime->time()), QStringLiteral("Medium Time"));
+    print.to = regional::FormatDate(QDateTime(m_date, txtEndTime->time()), QStringLiteral("Medium Time"));
+    Guard([&] { report(file, print); });
 }
 
 void frmStrengthLog::on_cmdClose_clicked() { reject(); }

@@ -25,10 +25,18 @@ class QRadioButton;
 class QTabWidget;
 class QTimeEdit;
 
+#include "strength/rules/workoutpage.h"
+
 // The workout page lives in the reports subsystem above this one; it fills this link when it
 // registers, and "&Print" calls it with the page's file name (the workout's name without "/"
-// and "\", and ".htm").
-std::function<void(const QString& fileName)>& ReportStrengthLink();
+// and "\", and ".htm"), the workout as the grid holds it (name, description, rows), its day,
+// its calendar key ("" while it is being scheduled) and its start and end times.
+struct StrengthLogPrint {
+    workoutpage::Workout workout;
+    QDate date;
+    QString key, from, to;
+};
+std::function<void(const QString& fileName, const StrengthLogPrint& print)>& ReportStrengthLink();
 
 class frmStrengthLog : public QDialog {
     Q_OBJECT

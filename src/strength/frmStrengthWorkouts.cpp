@@ -28,9 +28,9 @@
 #include "strength/frmExercise.h"
 #include "strength/frmStrengthInfo.h"
 
-std::function<void(const QString& fileName, const QString& tags)>& ReportWorkoutLink()
+std::function<void(const QString& fileName, const workoutpage::Workout& workout, const QString& tags)>& ReportWorkoutLink()
 {
-    static std::function<void(const QString&, const QString&)> link;
+    static std::function<void(const QString&, const workoutpage::Workout&, const QString&)> link;
     return link;
 }
 
@@ -759,7 +759,10 @@ void frmStrengthWorkouts::on_cmdPrint_clicked()
     auto& report = ReportWorkoutLink();
     if (!report)
         return;
-    Guard([&] { report(workoutpage::PageFileName(txtWorkout->text().trimmed()), CreateHTML()); });
+    Guard([&] {
+        const workoutpage::Workout workout = PageWorkout();
+        report(workoutpage::PageFileName(workout.name), workout, workoutpage::WriteTags(workout));
+    });
 }
 
 void frmStrengthWorkouts::ImportWorkout()

@@ -19,8 +19,9 @@ class Grid;
 
 // The workout page lives in the reports subsystem above this one; it fills this link when it
 // registers, and "&Print" calls it with the page's file name (the workout's name without "/"
-// and "\", and ".htm") and the exchange tags to put before the page's "</body>".
-std::function<void(const QString& fileName, const QString& tags)>& ReportWorkoutLink();
+// and "\", and ".htm"), the workout as the screen holds it for the page's table, and its
+// exchange tags to put before the page's "</body>".
+std::function<void(const QString& fileName, const workoutpage::Workout& workout, const QString& tags)>& ReportWorkoutLink();
 
 class frmStrengthWorkouts : public QDialog {
     Q_OBJECT
