@@ -10,32 +10,18 @@ namespace reportpages {
 
 namespace {
 
-QString Cell(const QString& value, bool number)
-{
-    const QString text = value.isEmpty() ? QStringLiteral("&nbsp;") : page::Escape(value);
-    return (number ? QStringLiteral("<td align=right width=\"40\"><font size=\"1\">")
-                   : QStringLiteral("<td align=left width=\"120\"><font size=\"1\">")) +
-           text + QStringLiteral("</font></td>");
-}
-
 // A table of the day's lines under its caption row; the last column is a number in the
 // readings and a text (the dose) in the medications.
 void LinesTable(page::PageWriter& out, const QString& captionRow, const QStringList& headings,
                 const QList<WellnessLine>& lines, bool numbers)
 {
-    out.Line(QStringLiteral("<table border=1 CELLSPACING=0 CELLPADDING=0 width=100% align=center >"));
+    const int textColumns = numbers ? 2 : 3;
+    out.Line(page::table::Open());
     out.Line(captionRow);
-    QString head = QStringLiteral("<tr bgcolor=\"#CCCCCC\">");
-    for (int i = 0; i < headings.size(); ++i)
-        head += (numbers && i == headings.size() - 1 ? QStringLiteral("<td><center><font size=\"1\">")
-                                                      : QStringLiteral("<td><font size=\"1\">")) +
-                headings[i] + (numbers && i == headings.size() - 1 ? QStringLiteral("</font></center></td>")
-                                                                    : QStringLiteral("</font></td>"));
-    out.Line(head + QStringLiteral("</tr>"));
+    out.Line(page::table::HeadingRow(headings, textColumns));
     for (const WellnessLine& l : lines)
-        out.Line(QStringLiteral("<tr>") + Cell(l.name, false) + Cell(l.time, false) + Cell(l.amount, numbers) +
-                 QStringLiteral("</tr>"));
-    out.Line(QStringLiteral("</table>"));
+        out.Line(page::table::Row({l.name, l.time, l.amount}, textColumns));
+    out.Line(page::table::Close());
 }
 
 }  // namespace
