@@ -147,9 +147,8 @@ QList<int> ShownNutrients()
     return numbers;
 }
 
-void SSNutritionEnter(Grid* grid, const Recordset& rs)
+void SSNutritionEnter(Grid* grid, int r, const Recordset& rs)
 {
-    const int r = AddItem(grid);
     grid->SetText(r, 1, DateText(rs.Field(QStringLiteral("Date"))));
     grid->SetText(r, 2, Str(rs.Field(QStringLiteral("Name"))));
     grid->SetText(r, 3, Figure(Val(rs.Field(QStringLiteral("amount")))) + QStringLiteral(" ") +
@@ -160,9 +159,8 @@ void SSNutritionEnter(Grid* grid, const Recordset& rs)
     grid->SetText(r, 9, Str(rs.Field(QStringLiteral("Food_ID"))));
 }
 
-void SSNutrientsEnter(Grid* grid, const Recordset& rs, const QList<int>& nutrients)
+void SSNutrientsEnter(Grid* grid, int r, const Recordset& rs, const QList<int>& nutrients)
 {
-    const int r = AddItem(grid);
     grid->SetText(r, 1, DateText(rs.Field(QStringLiteral("Date"))));
     grid->SetText(r, 2, Str(rs.Field(QStringLiteral("Name"))));
     int c = 3;
@@ -407,16 +405,21 @@ void nutritionInfo(Grid* SSNutrition, Grid* SSNutrients, const QString& meal, co
             SqlText += QStringLiteral(" and meal_id = (select meal_id from setup_meals where meal = '") +
                        SqlQuote(meal) + QStringLiteral("' and User_ID = ") + CurrentUserID + QStringLiteral(")");
         SqlText += QStringLiteral(" order by date");
-        ForEachRow(UserRS, SqlText, [&](Recordset& rs) {
-            SSNutritionEnter(SSNutrition, rs);
-            SSNutrientsEnter(SSNutrients, rs, nutrients);
-            balance.caloriesEaten += Val(rs.Field(QStringLiteral("calories")));
-            protein += Val(rs.Field(QStringLiteral("protein")));
-            fat += Val(rs.Field(QStringLiteral("Fat")));
-            carbs += Val(rs.Field(QStringLiteral("Carbs")));
-            points += Val(rs.Field(QStringLiteral("points")));
+        UserRS.Open(SqlText);
+        RecordsetScope scope(UserRS);
+        // Both grids take their item rows at once: the rows are as many as the records.
+        SSNutrition->SetMaxRows(kTopRows + int(UserRS.RecordCount()));
+        SSNutrients->SetMaxRows(kTopRows + int(UserRS.RecordCount()));
+        for (; !UserRS.Eof(); UserRS.MoveNext()) {
             ++items;
-        });
+            SSNutritionEnter(SSNutrition, kTopRows + items, UserRS);
+            SSNutrientsEnter(SSNutrients, kTopRows + items, UserRS, nutrients);
+            balance.caloriesEaten += Val(UserRS.Field(QStringLiteral("calories")));
+            protein += Val(UserRS.Field(QStringLiteral("protein")));
+            fat += Val(UserRS.Field(QStringLiteral("Fat")));
+            carbs += Val(UserRS.Field(QStringLiteral("Carbs")));
+            points += Val(UserRS.Field(QStringLiteral("points")));
+        }
         SSNutrientsTotalEnter(SSNutrients, Days(range));
         const double sums[5] = {balance.caloriesEaten, protein, fat, carbs, points};
         for (int i = 0; i < 5; ++i) {
