@@ -198,6 +198,51 @@ TEST_F(DailySummary, FieldsChooserOffersNoExerciseGoalsAndSaves)
     EXPECT_EQ(again.SS1->MaxCols(), 10);
 }
 
+TEST_F(DailySummary, StripFollowsTheTabsAndAddsUpOnFilters)
+{
+    WeighIn("2026-03-01", 1750);
+    Exec(QString("insert into daily_exercise (User_ID, [Date], Name, Key, duration, Cals, Intensity) "
+                 "values ('%1', #2026-03-10#, 'Run', '1', '01:00:00', 300, 5)").arg(id));
+    Exec(QString("insert into setup_meals (User_ID, Meal_ID, meal) values (%1, 1, 'Breakfast')").arg(id));
+    Exec(QString("insert into setup_meals (User_ID, Meal_ID, meal) values (%1, 2, 'Dinner')").arg(id));
+    Exec(QString("insert into daily_nutrition (User_ID, [Date], Meal_ID, Name, calories) values ('%1', #2026-03-10#, 1, 'Oats', 1000)").arg(id));
+    Exec(QString("insert into daily_nutrition (User_ID, [Date], Meal_ID, Name, calories) values ('%1', #2026-03-10#, 2, 'Feast', 4000)").arg(id));
+    {
+        // Exercise without a strength workout: the average burned stays "0.0". More eaten than
+        // burned: a negative net under the loss heading, never converted to kilograms.
+        Exec("update User_Info set personal_measurements = 'kg' where User_ID = " + id);
+        frmDailySummary s;
+        EXPECT_EQ(s.SS2->Text(1, 1), "300.0");
+        EXPECT_EQ(s.SS2->Text(2, 1), "0.0");
+        EXPECT_EQ(s.SS2->Text(1, 4), "5,000.0");
+        EXPECT_EQ(s.SS2->Text(1, 5), "-2,950.0");
+        EXPECT_EQ(s.SS2->Text(0, 5), "= Net Loss of (Calories)");
+        EXPECT_EQ(s.SS2->Text(0, 6), "= Net Loss of (kg)");
+        EXPECT_EQ(s.SS2->Text(1, 6), "-0.8");
+        EXPECT_EQ(s.SS2->Text(1, 7), "1 hour");
+        // A meal chosen on the Nutrition tab counts that meal alone in the intake.
+        s.cboNutrition->setCurrentIndex(s.cboNutrition->findText("Breakfast"));
+        EXPECT_EQ(s.SS2->Text(1, 4), "1,000.0");
+        EXPECT_EQ(s.SS2->Text(1, 5), "-2,950.0");   // the rest waits for the strength tab
+        Exec("update User_Info set personal_measurements = 'lbs' where User_ID = " + id);
+    }
+    Exec(QString("insert into calendar (User_ID, [Date], Key, Name, WorkoutType, Cals, duration, Intensity) "
+                 "values ('%1', #2026-03-10#, 5, 'Legs', 'Strength', 200, '00:30:00', 6)").arg(id));
+    frmDailySummary s;
+    EXPECT_EQ(s.SS2->Text(1, 1), "500.0");
+    EXPECT_EQ(s.SS2->Text(2, 1), "500.0");
+    EXPECT_EQ(s.SS2->Text(1, 7), "1.5 hours");
+    // Each change of the strength filter adds its workouts on top, until the range changes.
+    s.cboStrength->setCurrentIndex(s.cboStrength->findText("Legs"));
+    EXPECT_EQ(s.SS2->Text(1, 1), "700.0");
+    s.cboStrength->setCurrentIndex(0);
+    EXPECT_EQ(s.SS2->Text(1, 1), "900.0");
+    EXPECT_EQ(s.SS2->Text(1, 7), "2.5 hours");
+    s.txtStartDate->setDate(kDay.addDays(-1));
+    EXPECT_EQ(s.SS2->Text(1, 1), "500.0");
+    EXPECT_EQ(s.SS2->Text(2, 1), "250.0");
+}
+
 TEST_F(DailySummary, ExportWritesTheGridInFront)
 {
     WeighIn("2026-03-01", 1750);
