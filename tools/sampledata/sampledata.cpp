@@ -15,6 +15,7 @@
 #include "strength/rules/strengthlog.h"
 
 #include <QDateTime>
+#include <QGuiApplication>
 #include <QHash>
 #include <QSet>
 #include <QTextDocument>
@@ -335,6 +336,9 @@ QString LogText(Dice& dice, bool session, bool workout, double sleep)
     if (session) text += QStringLiteral(" The session went to plan.");
     if (workout) text += QStringLiteral(" Added a little weight on the main lifts.");
     if (sleep < 6.5) text += QStringLiteral(" Need more sleep.");
+    // Rich text is written from a document, which wants fonts: without a GUI application the
+    // log stays plain text, which the log reads as well.
+    if (!qobject_cast<QGuiApplication*>(QCoreApplication::instance())) return text;
     QTextDocument doc;
     doc.setPlainText(text);
     return RichText::Write(doc);
