@@ -316,6 +316,13 @@ DayTable summaryTable(const QString& userId, const QDate& start, const QDate& en
                           "eIntensity integer, eComplete integer, sDuration text(10), sCals double, sIntensity integer, "
                           "sComplete integer)"),
            messages);
+    // Every step finds its day by dateS: an index keeps a long range from scanning the table once
+    // per statement. Like the table, it is there after the first run.
+    try {
+        UserConn.Execute(QStringLiteral("create index tmpDate_dateS on tmpDate (dateS)"));
+    } catch (const StoreError&) {
+        // there already, or the table could not be made: the steps below tell that
+    }
     Step(messages, [] { UserConn.Execute(QStringLiteral("delete * from tmpDate")); });
     Step(messages, [&] {
         RecordsetScope scope(UserRS);
