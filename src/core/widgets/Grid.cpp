@@ -339,8 +339,9 @@ QTableWidgetItem* Grid::ensureItem(int row, int col)
         it = new QTableWidgetItem;
         if (m_back.isValid())
             it->setBackground(m_back);
-        setItem(row - 1, col - 1, it);
+        // Set up before it joins the table: each change of an item in the table is a signal.
         applyType(it, row, col);
+        setItem(row - 1, col - 1, it);
         --m_updating;
     }
     return it;
