@@ -31,7 +31,8 @@ using namespace totals;
 
 namespace {
 
-constexpr int kTwipsPerPixel = 15;
+// The widths kept in Summary_Display are twips of a smaller font than ours.
+constexpr int kTwipsPerPixel = 11;
 
 // The hourglass for the length of a computation.
 class WaitCursor {
