@@ -42,6 +42,10 @@ protected:
             shown << ReportFile;
             html = view ? view->browser->PageHtml() : QString();
             previewFlag = PreviewOpen;
+            if (view) {
+                view->resize(900, 700);
+                view->grab().save("/tmp/orvantis_preview_" + QString::number(shown.size()) + ".png");
+            }
             return 0;
         });
     }
@@ -92,6 +96,8 @@ TEST_F(PreviewTest, TwoDayNutritionPagePrintsToPdf)
     EXPECT_EQ(Ui().LastMessage().text, "Report printed.");
     EXPECT_EQ(Ui().LastMessage().title, "Message");
     ASSERT_TRUE(QFile::exists(pdf));
+    QFile::remove("/tmp/orvantis_days.pdf");
+    QFile::copy(pdf, "/tmp/orvantis_days.pdf");
 
     // A file that cannot be written is an error of printing.
     Ui().AnswerFile(FilePath("no such folder/days.pdf"));
