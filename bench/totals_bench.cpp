@@ -8,6 +8,7 @@
 
 #include <QApplication>
 #include <QHash>
+#include <QSet>
 #include <QSignalBlocker>
 #include <QTemporaryDir>
 #include <QDateEdit>
@@ -191,11 +192,17 @@ void Reference(Raw& raw, const QString& id, const QDate& start, const QDate& end
     raw.Walk(QStringLiteral("select * from daily_exercise where User_ID='") + id + QLatin1Char('\'') + range +
                  QStringLiteral(" order by date, name"),
              [](sqlite3_stmt*) {});
+    QSet<QString> keysRead;
     raw.Walk(QStringLiteral("select * from calendar where User_ID='") + id + QLatin1Char('\'') + range +
                  QStringLiteral(" and WorkoutType = 'Strength' order by date, name"),
              [&](sqlite3_stmt* st) {
+                 // Once per key, as the screen reads it.
+                 const QString key = Text(st, 2);
+                 if (keysRead.contains(key))
+                     return;
+                 keysRead.insert(key);
                  raw.Walk(QStringLiteral("select sum(reps) as sumReps, count(sets) as sumSets from daily_weights where key = '") +
-                              Text(st, 2) + QLatin1Char('\''),
+                              key + QLatin1Char('\''),
                           [](sqlite3_stmt*) {});
              });
     const QString tmpRange = QStringLiteral(" from tmpDate where dateS between ") + D(start) + QStringLiteral(" and ") + D(end);

@@ -1,5 +1,7 @@
 #include "core/widgets/Grid.h"
 
+#include <QSignalBlocker>
+
 #include <QComboBox>
 #include <QDateTime>
 #include <QFile>
@@ -375,7 +377,13 @@ void Grid::SetText(int row, int col, const QString& text)
     if (!it || GetCellType(row, col) == TypeFormula)
         return;
     ++m_updating;
-    it->setText(text);
+    if (m_batch > 0) {
+        // Inside a batch the view is told once, at its end, not cell by cell.
+        const QSignalBlocker quiet(model());
+        it->setText(text);
+    } else {
+        it->setText(text);
+    }
     --m_updating;
     m_sheet->Changed(row, col);
     recompute();
@@ -517,8 +525,10 @@ void Grid::BeginUpdate() { ++m_batch; }
 
 void Grid::EndUpdate()
 {
-    if (m_batch > 0 && --m_batch == 0)
+    if (m_batch > 0 && --m_batch == 0) {
         recompute();
+        viewport()->update();
+    }
 }
 
 void Grid::recompute()

@@ -496,6 +496,7 @@ void strengthTraining(Grid* SSStrength, const QString& name, const Range& range,
         FillScope fill(SSStrength);
         CutBack(SSStrength, kTopRows, 2, StrengthLabels());
         double hours = 0, intensity = 0, reps = 0, sets = 0, calories = 0;
+        QHash<QString, QPair<QVariant, QVariant>> setsOfKey;
         SqlText = QStringLiteral("select * from calendar where User_ID='") + CurrentUserID + QStringLiteral("'") +
                   Between(range) + QStringLiteral(" and WorkoutType = 'Strength'");
         if (!NoFilter(name))
@@ -511,21 +512,28 @@ void strengthTraining(Grid* SSStrength, const QString& name, const Range& range,
             SSStrength->SetText(r, 2, Str(rs.Field(QStringLiteral("Name"))));
             SSStrength->SetText(r, 3, Str(duration));
             SSStrength->SetText(r, 4, Plain(i));
-            FirstRow(UserRS2,
-                     QStringLiteral("select sum(reps) as sumReps, count(sets) as sumSets from daily_weights where key = '") +
-                         SqlQuote(Str(rs.Field(QStringLiteral("Key")))) + QStringLiteral("'"),
-                     [&](Recordset& w) {
-                         const QVariant sr = w.Field(QStringLiteral("sumreps"));
-                         const QVariant ss = w.Field(QStringLiteral("sumsets"));
-                         if (!IsNull(sr)) {
-                             SSStrength->SetText(r, 5, Figure(Val(sr)));
-                             reps += Val(sr);
-                         }
-                         if (!IsNull(ss)) {
-                             SSStrength->SetText(r, 6, Figure(Val(ss)));
-                             sets += Val(ss);
-                         }
-                     });
+            // A key is a number within its day, so the sums of one key are those of every day
+            // that used it: the same for each workout of that key, read once per computation.
+            const QString key = Str(rs.Field(QStringLiteral("Key")));
+            auto known = setsOfKey.find(key);
+            if (known == setsOfKey.end()) {
+                QPair<QVariant, QVariant> sums;
+                FirstRow(UserRS2,
+                         QStringLiteral("select sum(reps) as sumReps, count(sets) as sumSets from daily_weights where key = '") +
+                             SqlQuote(key) + QStringLiteral("'"),
+                         [&](Recordset& w) {
+                             sums = {w.Field(QStringLiteral("sumreps")), w.Field(QStringLiteral("sumsets"))};
+                         });
+                known = setsOfKey.insert(key, sums);
+            }
+            if (!IsNull(known->first)) {
+                SSStrength->SetText(r, 5, Figure(Val(known->first)));
+                reps += Val(known->first);
+            }
+            if (!IsNull(known->second)) {
+                SSStrength->SetText(r, 6, Figure(Val(known->second)));
+                sets += Val(known->second);
+            }
             SSStrength->SetText(r, 7, Figure(cals));
             hours += h;
             intensity += i;
