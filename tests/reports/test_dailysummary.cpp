@@ -243,6 +243,37 @@ TEST_F(DailySummary, StripFollowsTheTabsAndAddsUpOnFilters)
     EXPECT_EQ(s.SS2->Text(2, 1), "250.0");
 }
 
+TEST_F(DailySummary, NutrientsPageFillsWhenShownAndFollowsTheMeal)
+{
+    Exec(QString("insert into setup_meals (User_ID, Meal_ID, meal) values (%1, 1, 'Breakfast')").arg(id));
+    Exec(QString("insert into setup_meals (User_ID, Meal_ID, meal) values (%1, 2, 'Dinner')").arg(id));
+    Exec(QString("insert into daily_nutrition (User_ID, [Date], Meal_ID, Name, calories, Fiber) values ('%1', #2026-03-10#, 1, 'Oats', 300, 8)").arg(id));
+    Exec(QString("insert into daily_nutrition (User_ID, [Date], Meal_ID, Name, calories, Fiber) values ('%1', #2026-03-10#, 2, 'Beans', 500, 12)").arg(id));
+    frmDailySummary s;
+    auto fiber = [&] {
+        for (int c = 1; c <= s.SSNutrients->MaxCols(); ++c)
+            if (s.SSNutrients->Text(0, c) == "Fiber") return s.SSNutrients->Text(1, c);
+        return QString("no column");
+    };
+    EXPECT_EQ(s.SSNutrition->MaxRows(), 6);
+    // Shown, the page holds the same food rows and its totals.
+    s.TotalsTab->setCurrentIndex(frmDailySummary::tabNutrition);
+    s.NutritionPages->setCurrentIndex(1);
+    EXPECT_EQ(s.SSNutrients->MaxRows(), 6);
+    EXPECT_EQ(fiber(), "20.");
+    // In front while the meal changes, it follows at once; behind, when it is shown again.
+    s.cboNutrition->setCurrentIndex(s.cboNutrition->findText("Breakfast"));
+    EXPECT_EQ(fiber(), "8.");
+    s.NutritionPages->setCurrentIndex(0);
+    s.cboNutrition->setCurrentIndex(s.cboNutrition->findText("Dinner"));
+    s.TotalsTab->setCurrentIndex(frmDailySummary::tabSummary);
+    s.NutritionPages->setCurrentIndex(1);
+    EXPECT_EQ(fiber(), "8.");
+    s.TotalsTab->setCurrentIndex(frmDailySummary::tabNutrition);
+    EXPECT_EQ(fiber(), "12.");
+    EXPECT_EQ(s.SS2->Text(1, 4), "500.0");
+}
+
 TEST_F(DailySummary, ExportWritesTheGridInFront)
 {
     WeighIn("2026-03-01", 1750);

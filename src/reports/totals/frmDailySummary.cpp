@@ -72,6 +72,7 @@ frmDailySummary::frmDailySummary(QWidget* parent) : QDialog(parent)
     TotalsTab->addTab(buildExerciseTab(), QStringLiteral("Exercise"));
     TotalsTab->addTab(buildStrengthTab(), QStringLiteral("Strength"));
     TotalsTab->addTab(buildWellnessTab(), QStringLiteral("Wellness"));
+    connect(TotalsTab, &QTabWidget::currentChanged, this, [this] { fillNutrients(); });
     theme::ApplyToTabs(TotalsTab);
     cmdClose = form::Button(QStringLiteral("cmdClose"), QStringLiteral("&Close"));
     connect(cmdClose, &QPushButton::clicked, this, &QDialog::accept);
@@ -213,6 +214,7 @@ QWidget* frmDailySummary::buildNutritionTab()
     NutritionPages->addTab(SSNutrition, QStringLiteral("Nutrition"));
     NutritionPages->addTab(SSNutrients, QStringLiteral("Nutrients"));
     theme::ApplyToTabs(NutritionPages);
+    connect(NutritionPages, &QTabWidget::currentChanged, this, [this] { fillNutrients(); });
     auto* v = new QVBoxLayout(page);
     v->addLayout(top);
     v->addWidget(NutritionPages, 1);
@@ -417,9 +419,10 @@ void frmDailySummary::LoadTotals()
     WaitCursor wait;
     const Range range = CurrentRange();
     Guard([&] {
-        nutritionInfo(SSNutrition, SSNutrients, cboNutrition->currentText(), range, m_balance);
+        nutritionInfo(SSNutrition, nullptr, cboNutrition->currentText(), range, m_balance);
         summary::SetCaloriesEaten(m_strip, m_balance.caloriesEaten);
     });
+    nutrientsDue();
     m_balance.caloriesBurned = 0;
     summaryTable();
     Guard([&] { exerciseSports(SSExercise, cboExerciseSports->currentText(), range, m_balance); });
@@ -555,11 +558,12 @@ void frmDailySummary::nutritionFilterChanged()
 {
     if (m_loadingScreen || m_computing) return;
     Guard([this] {
-        nutritionInfo(SSNutrition, SSNutrients, cboNutrition->currentText(), CurrentRange(), m_balance);
+        nutritionInfo(SSNutrition, nullptr, cboNutrition->currentText(), CurrentRange(), m_balance);
         // The meal reaches the strip's intake, and stays there until the next range.
         summary::SetCaloriesEaten(m_strip, m_balance.caloriesEaten);
         stripToGrid();
     });
+    nutrientsDue();
 }
 
 void frmDailySummary::exerciseFilterChanged()
@@ -608,10 +612,28 @@ void frmDailySummary::OpenFields(int page)
     summaryTable();
     Guard([this] {
         SSNutrientsSet(SSNutrients);
-        nutritionInfo(SSNutrition, SSNutrients, cboNutrition->currentText(), CurrentRange(), m_balance);
+        nutritionInfo(SSNutrition, nullptr, cboNutrition->currentText(), CurrentRange(), m_balance);
         summary::SetCaloriesEaten(m_strip, m_balance.caloriesEaten);
         stripToGrid();
     });
+    nutrientsDue();
+}
+
+void frmDailySummary::nutrientsDue()
+{
+    m_nutrientsDue = true;
+    if (TotalsTab->currentIndex() == tabNutrition && NutritionPages->currentIndex() == 1)
+        fillNutrients();
+}
+
+void frmDailySummary::fillNutrients()
+{
+    if (!m_nutrientsDue || TotalsTab->currentIndex() != tabNutrition || NutritionPages->currentIndex() != 1)
+        return;
+    m_nutrientsDue = false;
+    // The same rows as the Nutrition page; the strip keeps what that page left.
+    Balance unused;
+    Guard([&] { nutritionInfo(nullptr, SSNutrients, cboNutrition->currentText(), CurrentRange(), unused); });
 }
 
 Grid* frmDailySummary::GridInFront(int tab) const

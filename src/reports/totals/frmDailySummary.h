@@ -103,6 +103,9 @@ private:
     void ExportTable(int tab);
     Grid* GridInFront(int tab) const;
     void OpenFields(int page);
+    // The Nutrients page is filled when it is in front: a year of it is some 150,000 cells.
+    void nutrientsDue();
+    void fillNutrients();
 
     QList<summary::DisplayColumn> m_columns;
     QStringList m_groups;
@@ -112,4 +115,5 @@ private:
     bool m_loadingScreen = true;
     bool m_silenceEnd = false;
     bool m_computing = false;
+    bool m_nutrientsDue = false;
 };

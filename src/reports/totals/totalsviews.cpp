@@ -1,5 +1,7 @@
 #include "reports/totals/totalsviews.h"
 
+#include <optional>
+
 #include "core/regional.h"
 #include "core/routines.h"
 #include "core/rows.h"
@@ -392,13 +394,18 @@ void nutritionInfo(Grid* SSNutrition, Grid* SSNutrients, const QString& meal, co
 {
     balance.caloriesEaten = 0;
     Guard([&] {
-        FillScope fillNutrition(SSNutrition);
-        FillScope fillNutrients(SSNutrients);
-        CutBack(SSNutrition, kTopRows, 3, NutritionLabels());
-        CutBack(SSNutrients, kTopRows, 2, {});
+        std::optional<FillScope> fillNutrition, fillNutrients;
+        if (SSNutrition) {
+            fillNutrition.emplace(SSNutrition);
+            CutBack(SSNutrition, kTopRows, 3, NutritionLabels());
+        }
+        if (SSNutrients) {
+            fillNutrients.emplace(SSNutrients);
+            CutBack(SSNutrients, kTopRows, 2, {});
+        }
         double protein = 0, fat = 0, carbs = 0, points = 0;
         int items = 0;
-        const QList<int> nutrients = ShownNutrients();
+        const QList<int> nutrients = SSNutrients ? ShownNutrients() : QList<int>();
         SqlText = QStringLiteral("select * from daily_nutrition where User_ID = '") + CurrentUserID +
                   QStringLiteral("'") + Between(range) + QStringLiteral(" and meal_id <> 9999");
         if (!NoFilter(meal))
@@ -408,19 +415,20 @@ void nutritionInfo(Grid* SSNutrition, Grid* SSNutrients, const QString& meal, co
         UserRS.Open(SqlText);
         RecordsetScope scope(UserRS);
         // Both grids take their item rows at once: the rows are as many as the records.
-        SSNutrition->SetMaxRows(kTopRows + int(UserRS.RecordCount()));
-        SSNutrients->SetMaxRows(kTopRows + int(UserRS.RecordCount()));
+        if (SSNutrition) SSNutrition->SetMaxRows(kTopRows + int(UserRS.RecordCount()));
+        if (SSNutrients) SSNutrients->SetMaxRows(kTopRows + int(UserRS.RecordCount()));
         for (; !UserRS.Eof(); UserRS.MoveNext()) {
             ++items;
-            SSNutritionEnter(SSNutrition, kTopRows + items, UserRS);
-            SSNutrientsEnter(SSNutrients, kTopRows + items, UserRS, nutrients);
+            if (SSNutrition) SSNutritionEnter(SSNutrition, kTopRows + items, UserRS);
+            if (SSNutrients) SSNutrientsEnter(SSNutrients, kTopRows + items, UserRS, nutrients);
             balance.caloriesEaten += Val(UserRS.Field(QStringLiteral("calories")));
             protein += Val(UserRS.Field(QStringLiteral("protein")));
             fat += Val(UserRS.Field(QStringLiteral("Fat")));
             carbs += Val(UserRS.Field(QStringLiteral("Carbs")));
             points += Val(UserRS.Field(QStringLiteral("points")));
         }
-        SSNutrientsTotalEnter(SSNutrients, Days(range));
+        if (SSNutrients) SSNutrientsTotalEnter(SSNutrients, Days(range));
+        if (!SSNutrition) return;
         const double sums[5] = {balance.caloriesEaten, protein, fat, carbs, points};
         for (int i = 0; i < 5; ++i) {
             SSNutrition->SetText(1, 4 + i, Figure(sums[i]));

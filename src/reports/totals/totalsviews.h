@@ -47,6 +47,8 @@ void FillWellnessFilters(QComboBox* cboReadings, QComboBox* cboMedication);
 
 // Each cuts its grid(s) back to the top rows and fills them. An empty name, or the
 // "Show all" item's text, means no filter.
+// nutritionInfo fills either grid alone when the other is null (the screen fills the Nutrients
+// page when it is shown); caloriesEaten is set either way.
 void nutritionInfo(Grid* SSNutrition, Grid* SSNutrients, const QString& meal, const Range& range, Balance& balance);
 void exerciseSports(Grid* SSExercise, const QString& name, const Range& range, Balance& balance);
 void strengthTraining(Grid* SSStrength, const QString& name, const Range& range, Balance& balance);
