@@ -2,6 +2,8 @@
 // printed to a PDF file sheet by sheet with its footer, and each screen's "&Print" writing its
 // page and showing it in the preview.
 #include "fixtures/fixture.h"
+#include "core/pagewriter.h"
+#include <QPrinter>
 
 #include "body/frmWeighIn.h"
 #include "calendar/planner.h"
@@ -119,6 +121,35 @@ TEST_F(PreviewTest, TwoDayNutritionPagePrintsToPdf)
     EXPECT_TRUE(sheets[1].contains("Breakfast for Wednesday, March 11, 2026"));
     EXPECT_TRUE(sheets[1].contains("Page 2 of " + n));
     EXPECT_FALSE(sheets.join("").contains("WxPrinter"));
+}
+
+// A table wider than the sheet is printed smaller, so its last column is on the paper.
+TEST_F(PreviewTest, WideTablePrintsWhole)
+{
+    const QString pdftotext = QStandardPaths::findExecutable("pdftotext");
+    if (pdftotext.isEmpty())
+        GTEST_SKIP() << "pdftotext is not installed";
+    {
+        page::PageWriter out("wide.htm");
+        out.Line("<html><head><body><table border=1 cellspacing=0><tr>");
+        for (int c = 0; c < 12; ++c)
+            out.Line(QString("<td width=\"120\">cell%1</td>").arg(c));
+        out.Line("<td width=\"120\">lastcolumn</td></tr></table>");
+        out.Close();
+    }
+    QPrinter printer(QPrinter::HighResolution);
+    printer.setOutputFormat(QPrinter::PdfFormat);
+    const QString pdf = FilePath("wide.pdf");
+    printer.setOutputFileName(pdf);
+    QFile f(FilePath("wide.htm"));
+    ASSERT_TRUE(f.open(QIODevice::ReadOnly));
+    ASSERT_EQ(PageView::PrintPages(&printer, QString::fromUtf8(f.readAll()), FilePath("")), 1);
+    QProcess p;
+    p.start(pdftotext, {pdf, "-"});
+    ASSERT_TRUE(p.waitForFinished(10000));
+    const QString text = QString::fromUtf8(p.readAllStandardOutput());
+    EXPECT_TRUE(text.contains("cell0"));
+    EXPECT_TRUE(text.contains("lastcolumn"));
 }
 
 // Each of the four buttons is enabled once the links are in and shows its own page.

@@ -156,6 +156,15 @@ int PageView::PrintPages(QPrinter* printer, const QString& html, const QString& 
     const double footer = fm.height() * 2.5;
     const QSizeF body(area.width(), area.height() - footer);
     doc.setPageSize(body);
+    // A page whose tables are wider than the sheet (fixed column widths add up) is printed
+    // smaller, so that no column falls off the right edge.
+    double scale = 1.0;
+    const double wide = doc.documentLayout()->documentSize().width();
+    if (wide > body.width() + 1.0) {
+        scale = body.width() / wide;
+        doc.setPageSize(QSizeF(wide, body.height() / scale));
+    }
+    const QSizeF sheet = doc.pageSize();
 
     const int pages = doc.pageCount();
     for (int page = 0; page < pages; ++page) {
@@ -165,9 +174,10 @@ int PageView::PrintPages(QPrinter* printer, const QString& html, const QString& 
             return -1;
         }
         painter.save();
-        painter.translate(0, -page * body.height());
+        painter.scale(scale, scale);
+        painter.translate(0, -page * sheet.height());
         QAbstractTextDocumentLayout::PaintContext ctx;
-        ctx.clip = QRectF(0, page * body.height(), body.width(), body.height());
+        ctx.clip = QRectF(0, page * sheet.height(), sheet.width(), sheet.height());
         painter.setClipRect(ctx.clip);
         doc.documentLayout()->draw(&painter, ctx);
         painter.restore();
