@@ -103,12 +103,15 @@ int AddItem(Grid* grid)
     return grid->MaxRows();
 }
 
-void Layout(Grid* grid, const QStringList& headers, const QList<int>& widthChars)
+// Columns from firstFigure on hold figures: shown to the right, as numbers are (0: none).
+void Layout(Grid* grid, const QStringList& headers, const QList<int>& widthChars, int firstFigure = 0)
 {
     grid->SetMaxCols(headers.size());
     grid->SetColumnHeaders(headers);
     for (int c = 1; c <= headers.size(); ++c) {
-        grid->SetColumnType(c, Grid::TypeStatic);
+        const bool figure = firstFigure > 0 && c >= firstFigure;
+        grid->SetColumnType(c, figure ? Grid::TypeNumber : Grid::TypeStatic);
+        grid->SetColumnLocked(c, figure);
         if (c <= widthChars.size())
             grid->SetColumnWidthChars(c, widthChars[c - 1]);
     }
@@ -274,7 +277,7 @@ void SSNutritionSet(Grid* grid)
     Layout(grid, {QStringLiteral("Date"), QStringLiteral("Food"), QStringLiteral("Amount"), QStringLiteral("Calories"),
                   QStringLiteral("Protein"), QStringLiteral("Fat"), QStringLiteral("Carb"), QStringLiteral("Points"),
                   QStringLiteral("Food_ID")},
-           {11, 30, 16, 9, 8, 8, 8, 8, 6});
+           {11, 30, 16, 9, 8, 8, 8, 8, 6}, 4);
     grid->HideColumn(9);
     CutBack(grid, kTopRows, 3, NutritionLabels());
 }
@@ -289,7 +292,7 @@ void SSNutrientsSet(Grid* grid)
         QList<int> widths{11, 30};
         for (int c = 3; c <= headers.size(); ++c)
             widths << (headers[c - 1].compare(QStringLiteral("Pantothenic acid"), Qt::CaseInsensitive) == 0 ? 17 : 10);
-        Layout(grid, headers, widths);
+        Layout(grid, headers, widths, 3);
         CutBack(grid, kTopRows, 2, {});
     });
 }
@@ -298,7 +301,7 @@ void SSExerciseSet(Grid* grid)
 {
     Layout(grid, {QStringLiteral("Date"), QStringLiteral("Exercise"), QStringLiteral("Duration"),
                   QStringLiteral("Intensity"), QStringLiteral("Calories Burned")},
-           {11, 24, 12, 10, 15});
+           {11, 24, 12, 10, 15}, 4);
     CutBack(grid, kTopRows, 2, ExerciseLabels());
 }
 
@@ -307,7 +310,7 @@ void SSStrengthSet(Grid* grid)
     Layout(grid, {QStringLiteral("Date"), QStringLiteral("Workout"), QStringLiteral("Duration"),
                   QStringLiteral("Intensity"), QStringLiteral("Reps"), QStringLiteral("Sets"),
                   QStringLiteral("Calories Burned")},
-           {11, 24, 12, 10, 8, 8, 15});
+           {11, 24, 12, 10, 8, 8, 15}, 4);
     CutBack(grid, kTopRows, 2, StrengthLabels());
 }
 
@@ -316,13 +319,13 @@ void SSWellnessSet(Grid* grid, int index)
     if (index == 0) {
         Layout(grid, {QStringLiteral("Date"), QStringLiteral("Feel Well?"), QStringLiteral("Accomplish Goals?"),
                       QStringLiteral("Hours sleep"), QStringLiteral("Wakeup Time")},
-               {11, 30, 30, 12, 12});
+               {11, 30, 30, 12, 12}, 4);
         CutBack(grid, kFeelWellTopRows, 3, FeelWellLabels());
         return;
     }
     const QString third = index == 1 ? QStringLiteral("Readings") : QStringLiteral("Medication");
     const QString fourth = index == 1 ? QStringLiteral("Value") : QStringLiteral("Dosage");
-    Layout(grid, {QStringLiteral("Date"), QStringLiteral("Time"), third, fourth}, {11, 12, 30, 14});
+    Layout(grid, {QStringLiteral("Date"), QStringLiteral("Time"), third, fourth}, {11, 12, 30, 14}, index == 1 ? 4 : 0);
     CutBack(grid, kTopRows, 3,
             {QStringLiteral("Total   "), QStringLiteral("Average/Day   "), QStringLiteral("Average/Item   ")});
 }
