@@ -145,10 +145,7 @@ QWidget* frmWeighIn::buildWeighInTab()
 {
     auto* page = new QWidget(this);
 
-    cboDate = new QDateEdit(page);
-    cboDate->setObjectName(QStringLiteral("cboDate"));
-    cboDate->setCalendarPopup(true);
-    cboDate->setDisplayFormat(QStringLiteral("dddd, MMMM d, yyyy"));
+    cboDate = form::LongDate(QStringLiteral("cboDate"), page);
     auto* lblDate = new QLabel(QStringLiteral("&Date"), page);
     lblDate->setBuddy(cboDate);
 

@@ -171,10 +171,7 @@ QWidget* frmWellness::buildWellnessTab()
 {
     auto* page = new QWidget(this);
 
-    cboDate = new QDateEdit(page);
-    cboDate->setObjectName(QStringLiteral("cboDate"));
-    cboDate->setCalendarPopup(true);
-    cboDate->setDisplayFormat(QStringLiteral("dddd, MMMM d, yyyy"));
+    cboDate = form::LongDate(QStringLiteral("cboDate"), page);
     auto* dateRow = new QHBoxLayout;
     dateRow->addWidget(form::Caption(QStringLiteral("Da&y"), cboDate));
     dateRow->addWidget(cboDate);

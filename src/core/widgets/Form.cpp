@@ -1,5 +1,8 @@
 #include "core/widgets/Form.h"
 
+#include <QDateEdit>
+#include <QStyle>
+
 #include <QCheckBox>
 #include <QFormLayout>
 #include <QGridLayout>
@@ -60,6 +63,17 @@ QLabel* AddRow(QFormLayout* layout, const QString& caption, QWidget* field)
     QLabel* l = Caption(caption, field);
     layout->addRow(l, field);
     return l;
+}
+
+QDateEdit* LongDate(const QString& name, QWidget* parent)
+{
+    auto* edit = Named(new QDateEdit(parent), name);
+    edit->setCalendarPopup(true);
+    edit->setDisplayFormat(QStringLiteral("dddd, MMMM d, yyyy"));
+    // The text's width plus the arrow: the longest weekday and month.
+    const int text = edit->fontMetrics().horizontalAdvance(QStringLiteral("Wednesday, September 30, 2026"));
+    edit->setMinimumWidth(text + edit->style()->pixelMetric(QStyle::PM_ScrollBarExtent) + 24);
+    return edit;
 }
 
 }  // namespace form

@@ -12,6 +12,8 @@ class QLineEdit;
 class QPushButton;
 class QWidget;
 
+class QDateEdit;
+
 namespace form {
 
 // A caption for `buddy`; the caption's "&" gives the accelerator.
@@ -33,6 +35,10 @@ QLabel* AddRow(QGridLayout* grid, int row, const QString& caption, QWidget* fiel
 QLabel* AddRow(QFormLayout* layout, const QString& caption, QWidget* field);
 
 void SetTip(QWidget* w, const QString& tip);
+
+// A date field showing the day in long words ("Wednesday, September 30, 2026"): named, with
+// the calendar popup, and wide enough for the longest such day.
+QDateEdit* LongDate(const QString& name, QWidget* parent);
 template <class W>
 W* Named(W* w, const QString& name, const QString& tip)
 {
