@@ -117,9 +117,9 @@ void Reference(Raw& raw, const QString& id, const QDate& start, const QDate& end
     const QString range = QStringLiteral(" and date between ") + D(start) + QStringLiteral(" and ") + D(end);
     const QString user = QStringLiteral(" where User_ID = '") + id + QLatin1Char('\'');
     sqlite3_exec(raw.m_db, "BEGIN", nullptr, nullptr, nullptr);
-    // The nutrition tab, a nutrient cell per shown nutrient of every row.
+    // The nutrition tab: its rows (the Nutrients page is filled when it is shown).
     raw.Walk(QStringLiteral("select * from daily_nutrition") + user + range + QStringLiteral(" and meal_id <> 9999 order by date"),
-             [&](sqlite3_stmt*) { raw.Walk(QStringLiteral("select * from nutrient_display where display = true"), [](sqlite3_stmt*) {}); });
+             [](sqlite3_stmt*) {});
     // The day table.
     raw.Exec(QStringLiteral("delete * from tmpDate"));
     for (QDate d = start; d <= end; d = d.addDays(1))
