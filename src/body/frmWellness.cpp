@@ -83,6 +83,23 @@ QTreeWidget* LinesList(const QString& name, const QStringList& headers, QWidget*
     return l;
 }
 
+// A frame of the day's timed lines: its three fields (the first spanning the row), the Add,
+// Remove and Clear buttons under them, and the list of lines below.
+void LayOutLines(QGroupBox* frame, const QList<QPair<QString, QWidget*>>& fields, const QList<QPushButton*>& buttons,
+                 QWidget* list)
+{
+    auto* grid = new QGridLayout(frame);
+    for (int i = 0; i < fields.size(); ++i)
+        form::AddRow(grid, i, fields[i].first, fields[i].second, 0, i == 0 ? 3 : 1);
+    auto* row = new QHBoxLayout;
+    for (QPushButton* b : buttons)
+        row->addWidget(b);
+    row->addStretch(1);
+    grid->addLayout(row, int(fields.size()), 0, 1, 4);
+    grid->addWidget(list, int(fields.size()) + 1, 0, 1, 4);
+    grid->setColumnStretch(3, 1);
+}
+
 void SetLine(QTreeWidgetItem* item, const QString& name, const QString& time, const QString& amount)
 {
     item->setText(0, name);
@@ -245,18 +262,9 @@ QWidget* frmWellness::buildWellnessTab()
     lstReadings = LinesList(QStringLiteral("lstReadings"),
                             {QStringLiteral("Reading"), QStringLiteral("Time"), QStringLiteral("Value")}, fraReadings);
     lstReadings->setAccessibleName(QStringLiteral("Readings of the day"));
-    auto* rg = new QGridLayout(fraReadings);
-    form::AddRow(rg, 0, QStringLiteral("R&eading"), cboReading, 0, 3);
-    form::AddRow(rg, 1, QStringLiteral("&Time"), txtTime);
-    form::AddRow(rg, 2, QStringLiteral("Val&ue"), txtReading);
-    auto* rb = new QHBoxLayout;
-    rb->addWidget(cmdAddReading);
-    rb->addWidget(cmdDelReading);
-    rb->addWidget(cmdClearReading);
-    rb->addStretch(1);
-    rg->addLayout(rb, 3, 0, 1, 4);
-    rg->addWidget(lstReadings, 4, 0, 1, 4);
-    rg->setColumnStretch(3, 1);
+    LayOutLines(fraReadings, {{QStringLiteral("R&eading"), cboReading}, {QStringLiteral("&Time"), txtTime},
+                              {QStringLiteral("Val&ue"), txtReading}},
+                {cmdAddReading, cmdDelReading, cmdClearReading}, lstReadings);
 
     // Medications of the day.
     auto* fraMeds = new QGroupBox(QStringLiteral("Medications"), page);
@@ -271,18 +279,9 @@ QWidget* frmWellness::buildWellnessTab()
     lstMeds = LinesList(QStringLiteral("lstMeds"),
                         {QStringLiteral("Medication"), QStringLiteral("Time"), QStringLiteral("Dosage")}, fraMeds);
     lstMeds->setAccessibleName(QStringLiteral("Medications of the day"));
-    auto* mg = new QGridLayout(fraMeds);
-    form::AddRow(mg, 0, QStringLiteral("Medicatio&n"), txtMed, 0, 3);
-    form::AddRow(mg, 1, QStringLiteral("T&ime"), txtMedTime);
-    form::AddRow(mg, 2, QStringLiteral("Dosa&ge"), txtDose);
-    auto* mb = new QHBoxLayout;
-    mb->addWidget(cmdAddMed);
-    mb->addWidget(cmdDelMed);
-    mb->addWidget(cmdClearmed);
-    mb->addStretch(1);
-    mg->addLayout(mb, 3, 0, 1, 4);
-    mg->addWidget(lstMeds, 4, 0, 1, 4);
-    mg->setColumnStretch(3, 1);
+    LayOutLines(fraMeds, {{QStringLiteral("Medicatio&n"), txtMed}, {QStringLiteral("T&ime"), txtMedTime},
+                          {QStringLiteral("Dosa&ge"), txtDose}},
+                {cmdAddMed, cmdDelMed, cmdClearmed}, lstMeds);
 
     auto* questions = new QHBoxLayout;
     questions->addWidget(fraFeel, 1);
